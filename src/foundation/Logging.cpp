@@ -1,0 +1,9 @@
+#include "foundation/Logging.h"
+
+namespace tessara {
+
+Q_LOGGING_CATEGORY(lcFoundation, "tessara.foundation")
+Q_LOGGING_CATEGORY(lcScanning, "tessara.scanning")
+Q_LOGGING_CATEGORY(lcShell, "tessara.shell")
+
+} // namespace tessara

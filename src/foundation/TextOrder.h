@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QString>
+
+namespace tessara {
+
+/// How a person in the session's language would order two names: letters without case first,
+/// digits by the number that they spell ("9" before "10"). Negative, 0 or positive.
+int localizedStandardCompare(const QString& a, const QString& b);
+
+/// Order without case, code point by code point. Negative, 0 or positive.
+int caseInsensitiveCompare(const QString& a, const QString& b);
+
+} // namespace tessara

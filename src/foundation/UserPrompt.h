@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <functional>
+
+namespace tessara {
+
+/// Something that the user must know or decide.
+struct TSAlert {
+    enum class Style { kWarning, kInformational, kCritical };
+    /// What an answer is reported as: the first button, the second, the third.
+    static constexpr int kFirstButton = 1000;
+    static constexpr int kSecondButton = 1001;
+    static constexpr int kThirdButton = 1002;
+
+    QString messageText;
+    QString informativeText;
+    QStringList buttons; ///< from the default button on
+    Style style = Style::kWarning;
+};
+
+/// Asks the user. The window answers with sheets, the command line with lines on standard error,
+/// a test with what it wants to see happen.
+class UserPrompt {
+public:
+    using Answer = std::function<void(int returnCode)>;
+    using AlertId = int;
+
+    virtual ~UserPrompt() = default;
+
+    /// Shows an alert and returns at once; `answer` is called later, on the main thread.
+    virtual AlertId beginAlert(const TSAlert& alert, Answer answer) = 0;
+    /// Takes an alert away without an answer; nothing happens if it is gone already.
+    virtual void endAlert(AlertId alert) = 0;
+};
+
+} // namespace tessara

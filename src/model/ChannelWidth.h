@@ -1,0 +1,21 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+
+namespace tessara {
+
+/// Channel widths, by the code that records and the Wi-Fi service use.
+enum class ChannelWidth : std::uint8_t {
+    kUnknown = 0,
+    k20MHz = 1,
+    k40MHz = 2,
+    k80MHz = 3,
+    k160MHz = 4,
+    k80Plus80MHz = 5,
+};
+
+/// The width in MHz; none for an unknown width and for 80+80 MHz, which is no single number.
+std::optional<int> megahertz(ChannelWidth width);
+
+} // namespace tessara

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QString>
+#include <QVariant>
+
+#include <span>
+#include <vector>
+
+namespace tessara {
+
+class TSNetwork;
+
+/// How two sort keys of a column are told apart.
+enum class Comparison {
+    kNone,            ///< the column does not sort
+    kNumber,          ///< as numbers, or as times
+    kStandard,        ///< localizedStandardCompare
+    kCaseInsensitive, ///< caseInsensitiveCompare
+};
+
+enum class CellKind { kMarker, kText, kTextAndImage, kLevel };
+
+/// What the text of a cell depends on besides the network.
+struct CellContext {
+    bool dBm = false;        ///< signals in dBm instead of per cent
+    bool isScanning = false; ///< "Just now" and "5 sec ago" instead of a date
+};
+
+/// One column of the list of networks. The table, its header menu, CSV, the clipboard and the
+/// command line all read this.
+struct Column {
+    QString identifier;
+    const char* title;       ///< English; shown through `localized`
+    const char* description; ///< English; one sentence for a tool tip
+    bool hidden;             ///< until the user asks for it
+    double width;            ///< points; 0 leaves it to the table
+    double minimumWidth;
+    Comparison comparison;
+    CellKind cell;
+    bool alignsRight;
+    QVariant (*sortKey)(const TSNetwork&);
+    QString (*text)(const TSNetwork&, const CellContext&);
+};
+
+/// All columns in the order in which a fresh table shows them.
+std::span<const Column> columnRegistry();
+/// The column of an identifier; none if there is no such column.
+const Column* columnWithIdentifier(QStringView identifier);
+
+/// Order of two sort keys of a column: negative, 0 or positive.
+int compareSortKeys(const Column& column, const QVariant& a, const QVariant& b);
+
+} // namespace tessara

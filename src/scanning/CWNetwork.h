@@ -1,0 +1,52 @@
+#pragma once
+
+#include "model/Band.h"
+#include "model/ChannelWidth.h"
+#include "model/ScanDictionary.h"
+
+#include <QByteArray>
+#include <QString>
+
+#include <cstdint>
+#include <optional>
+
+namespace tessara {
+
+/// A channel as the Wi-Fi service describes it.
+struct CWChannel {
+    int channelNumber = 0;
+    Band channelBand = Band::k2Dot4GHz;
+    ChannelWidth channelWidth = ChannelWidth::kUnknown;
+
+    bool operator==(const CWChannel&) const = default;
+};
+
+/// Kinds of security that a scanned network can be asked for, by the service's codes.
+enum class CWSecurity : int { kWEP = 1 };
+
+/// One network of a scan, as the Wi-Fi service reports it.
+class CWNetwork {
+public:
+    std::optional<QString> bssid;
+    std::optional<QString> ssid; ///< none for a hidden network
+    CWChannel wlanChannel;
+    std::int64_t rssiValue = 0;        ///< dBm; 0 means no reading
+    std::int64_t noiseMeasurement = 0; ///< dBm; 0 means no reading
+    QByteArray informationElementData;
+    bool ibss = false;
+    std::int64_t beaconInterval = 0; ///< time units of 1.024 ms
+    /// The Privacy bit of the capability field (IEEE Std 802.11-2020, 9.4.1.4).
+    bool privacy = false;
+
+    /// WEP: the Privacy bit is set and no RSN or WPA element says how else it is protected.
+    bool supportsSecurity(CWSecurity security) const;
+
+    /// The raw scan dictionary of this network.
+    ScanDictionary dictionary() const;
+};
+
+/// Whether two results are of one network: the same band, and the same BSSID without regard to
+/// case. Without a BSSID a result is like no other.
+bool isSameNetwork(const CWNetwork& a, const CWNetwork& b);
+
+} // namespace tessara
