@@ -4,7 +4,8 @@
 
 #include <algorithm>
 
-namespace tessara {
+namespace tessara
+{
 
 std::optional<ElementView> ElementRun::find(std::uint8_t id) const
 {

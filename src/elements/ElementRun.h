@@ -7,10 +7,12 @@
 #include <iterator>
 #include <optional>
 
-namespace tessara {
+namespace tessara
+{
 
 /// Element identifiers (IEEE Std 802.11-2020, table 9-92) that more than one file reads.
-namespace ElementID {
+namespace ElementID
+{
 inline constexpr std::uint8_t kSSID = 0;
 inline constexpr std::uint8_t kDSParameterSet = 3;
 inline constexpr std::uint8_t kRSN = 48;
@@ -27,9 +29,13 @@ struct ElementView {
 /// A run of elements as a beacon carries it (IEEE Std 802.11-2020, 9.4.2.1): identifier byte,
 /// length byte, content. Walks without copying; an element that runs past the end of the bytes
 /// ends the walk and is not given.
-class ElementRun {
+class ElementRun
+{
 public:
-    explicit ElementRun(Bytes bytes) : m_bytes(bytes) {}
+    explicit ElementRun(Bytes bytes)
+        : m_bytes(bytes)
+    {
+    }
     /// The array must outlive the run.
     explicit ElementRun(const QByteArray& bytes)
         : m_bytes(reinterpret_cast<const std::uint8_t*>(bytes.constData()),
@@ -37,18 +43,20 @@ public:
     {
     }
 
-    class Iterator {
+    class Iterator
+    {
     public:
         using value_type = ElementView;
         using difference_type = std::ptrdiff_t;
 
         Iterator() = default;
-        explicit Iterator(Bytes rest) : m_rest(rest) { stopIfIncomplete(); }
-
-        ElementView operator*() const
+        explicit Iterator(Bytes rest)
+            : m_rest(rest)
         {
-            return {m_rest[0], m_rest.subspan(2, m_rest[1])};
+            stopIfIncomplete();
         }
+
+        ElementView operator*() const { return {m_rest[0], m_rest.subspan(2, m_rest[1])}; }
         Iterator& operator++()
         {
             m_rest = m_rest.subspan(std::size_t{2} + m_rest[1]);

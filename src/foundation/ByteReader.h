@@ -6,15 +6,20 @@
 #include <optional>
 #include <span>
 
-namespace tessara {
+namespace tessara
+{
 
 using Bytes = std::span<const std::uint8_t>;
 
 /// Reads numbers out of bytes from the air. It knows where the bytes end and never throws: what
 /// lies beyond the end is zero for the `…OrZero` reads and absent for the others.
-class ByteReader {
+class ByteReader
+{
 public:
-    constexpr explicit ByteReader(Bytes bytes) : m_bytes(bytes) {}
+    constexpr explicit ByteReader(Bytes bytes)
+        : m_bytes(bytes)
+    {
+    }
 
     constexpr std::size_t size() const { return m_bytes.size(); }
     /// Whether `count` bytes from `offset` on lie inside; safe against overflow of the sum.
@@ -65,7 +70,8 @@ private:
             return std::nullopt;
         Number value = 0;
         for (std::size_t i = 0; i < sizeof(Number); ++i)
-            value = static_cast<Number>(value | static_cast<Number>(m_bytes[offset + i]) << (8 * i));
+            value =
+                static_cast<Number>(value | static_cast<Number>(m_bytes[offset + i]) << (8 * i));
         return value;
     }
 

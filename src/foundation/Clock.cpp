@@ -8,11 +8,14 @@
 #include <condition_variable>
 #include <mutex>
 
-namespace tessara {
+namespace tessara
+{
 
-namespace {
+namespace
+{
 
-class EventLoopTimer final : public RepeatingTimer {
+class EventLoopTimer final : public RepeatingTimer
+{
 public:
     EventLoopTimer(double interval, std::function<void()> action)
     {
@@ -37,7 +40,10 @@ std::unique_ptr<RepeatingTimer> SystemClock::repeat(double interval, std::functi
     return std::make_unique<EventLoopTimer>(interval, std::move(action));
 }
 
-SystemPause::SystemPause(std::stop_token shutdown) : m_shutdown(std::move(shutdown)) {}
+SystemPause::SystemPause(std::stop_token shutdown)
+    : m_shutdown(std::move(shutdown))
+{
+}
 
 bool SystemPause::sleep(double seconds)
 {

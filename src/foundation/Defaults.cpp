@@ -2,9 +2,11 @@
 
 #include <cmath>
 
-namespace tessara {
+namespace tessara
+{
 
-namespace {
+namespace
+{
 
 /// Text of the user as a value of the type, or an invalid one.
 QVariant parsed(const QString& text, QMetaType::Type type)
@@ -12,11 +14,11 @@ QVariant parsed(const QString& text, QMetaType::Type type)
     bool ok = true;
     switch (type) {
     case QMetaType::Bool:
-        if (text.compare(QLatin1String("true"), Qt::CaseInsensitive) == 0
-            || text == QLatin1String("1"))
+        if (text.compare(QLatin1String("true"), Qt::CaseInsensitive) == 0 ||
+            text == QLatin1String("1"))
             return true;
-        if (text.compare(QLatin1String("false"), Qt::CaseInsensitive) == 0
-            || text == QLatin1String("0"))
+        if (text.compare(QLatin1String("false"), Qt::CaseInsensitive) == 0 ||
+            text == QLatin1String("0"))
             return false;
         return {};
     case QMetaType::LongLong: {

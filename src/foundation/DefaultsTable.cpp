@@ -3,9 +3,11 @@
 #include <algorithm>
 #include <vector>
 
-namespace tessara {
+namespace tessara
+{
 
-namespace {
+namespace
+{
 
 using namespace DefaultKey;
 

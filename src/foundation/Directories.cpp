@@ -1,6 +1,7 @@
 #include "foundation/Directories.h"
 
-namespace tessara {
+namespace tessara
+{
 
 Directories& Directories::installed()
 {

@@ -2,9 +2,11 @@
 
 #include <QCollator>
 
-namespace tessara {
+namespace tessara
+{
 
-namespace {
+namespace
+{
 
 QCollator makeCollator()
 {

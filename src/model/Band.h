@@ -4,7 +4,8 @@
 #include <optional>
 #include <span>
 
-namespace tessara {
+namespace tessara
+{
 
 /// Frequency bands, by the code that the Wi-Fi service gives them.
 enum class Band : std::uint8_t { k2Dot4GHz = 1, k5GHz = 2 };
@@ -15,7 +16,7 @@ struct BandInfo {
     const char* shortName;
     int firstChannel; ///< the lowest and the highest channel whose frequency is known
     int lastChannel;
-    int startMHz;  ///< channel n is centred at startMHz + 5 n (IEEE Std 802.11-2020, 17.3.8.4.2)
+    int startMHz; ///< channel n is centred at startMHz + 5 n (IEEE Std 802.11-2020, 17.3.8.4.2)
 };
 
 /// All bands, lowest frequency first.

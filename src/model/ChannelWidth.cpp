@@ -3,9 +3,11 @@
 #include <algorithm>
 #include <iterator>
 
-namespace tessara {
+namespace tessara
+{
 
-namespace {
+namespace
+{
 
 struct WidthInfo {
     ChannelWidth width;

@@ -11,17 +11,18 @@
 #include <algorithm>
 #include <cmath>
 
-namespace tessara {
+namespace tessara
+{
 
-namespace {
+namespace
+{
 
 // Cell texts ----------------------------------------------------------------------------------
 
 /// A signal or a noise in the user's unit.
 QString signalText(std::int64_t dBm, const CellContext& context)
 {
-    return context.dBm ? QString::number(dBm)
-                       : QStringLiteral("%1%").arg(signalPercentage(dBm));
+    return context.dBm ? QString::number(dBm) : QStringLiteral("%1%").arg(signalPercentage(dBm));
 }
 
 QString decibelText(std::int64_t decibels)
@@ -87,7 +88,9 @@ QString bandText(const TSNetwork& network)
         [](const TSNetwork& n, const CellContext&) -> QString { return expression; }
 #define SIGNAL_OF(expression)                                                                      \
     [](const TSNetwork& n) { return QVariant::fromValue<qlonglong>(expression); },                 \
-        [](const TSNetwork& n, const CellContext& context) { return signalText(expression, context); }
+        [](const TSNetwork& n, const CellContext& context) {                                       \
+            return signalText(expression, context);                                                \
+        }
 #define DECIBELS_OF(expression)                                                                    \
     [](const TSNetwork& n) { return QVariant::fromValue<qlonglong>(expression); },                 \
         [](const TSNetwork& n, const CellContext&) { return decibelText(expression); }
@@ -103,12 +106,12 @@ std::vector<Column> makeRegistry()
     constexpr bool kRight = true;
     constexpr bool kLeft = false;
     return {
-        {QStringLiteral("IS_USER_HIDDEN"), "", "The colour of the network in the charts.", kShown, 4,
-         4, kNone, kMarker, kLeft, [](const TSNetwork&) { return QVariant(); },
+        {QStringLiteral("IS_USER_HIDDEN"), "", "The colour of the network in the charts.", kShown,
+         4, 4, kNone, kMarker, kLeft, [](const TSNetwork&) { return QVariant(); },
          [](const TSNetwork&, const CellContext&) { return QString(); }},
         {QStringLiteral("BSSID"), "BSSID",
-         "The address of the access point's radio, the identifier of the basic service set.", kShown,
-         140, kMinimumWidth, kStandard, kText, kLeft, TEXT_OF(n.bssid())},
+         "The address of the access point's radio, the identifier of the basic service set.",
+         kShown, 140, kMinimumWidth, kStandard, kText, kLeft, TEXT_OF(n.bssid())},
         {QStringLiteral("SSID"), "Network Name",
          "The name that the network announces (SSID). A padlock marks a protected network.", kShown,
          160, kMinimumWidth, kStandard, kTextAndImage, kLeft, TEXT_OF(n.ssid())},
@@ -128,8 +131,8 @@ std::vector<Column> makeRegistry()
          kMinimumWidth, kCaseInsensitive, kText, kLeft, TEXT_OF(n.annotations())},
         {QStringLiteral("RSSI"), "Signal", "The last signal strength received.", kShown, 135, 60,
          kNumber, kLevel, kLeft, SIGNAL_OF(n.rssiLast())},
-        {QStringLiteral("RSSI_AVG"), "Avg Signal", "The average of all signal readings.", kHidden, 0,
-         kMinimumWidth, kNumber, kText, kLeft, SIGNAL_OF(n.rssiStatistic().avg)},
+        {QStringLiteral("RSSI_AVG"), "Avg Signal", "The average of all signal readings.", kHidden,
+         0, kMinimumWidth, kNumber, kText, kLeft, SIGNAL_OF(n.rssiStatistic().avg)},
         {QStringLiteral("RSSI_MIN"), "Min Signal", "The weakest signal read.", kHidden, 0,
          kMinimumWidth, kNumber, kText, kLeft, SIGNAL_OF(n.rssiStatistic().min)},
         {QStringLiteral("RSSI_MAX"), "Max Signal", "The strongest signal read.", kHidden, 0,
@@ -142,8 +145,8 @@ std::vector<Column> makeRegistry()
          kMinimumWidth, kNumber, kText, kLeft, SIGNAL_OF(n.noiseStatistic().min)},
         {QStringLiteral("NOISE_MAX"), "Max Noise", "The highest noise read.", kHidden, 0,
          kMinimumWidth, kNumber, kText, kLeft, SIGNAL_OF(n.noiseStatistic().max)},
-        {QStringLiteral("SNR"), "SNR", "The last ratio of signal to noise.", kHidden, 0, 75, kNumber,
-         kLevel, kLeft, DECIBELS_OF(n.snrLast())},
+        {QStringLiteral("SNR"), "SNR", "The last ratio of signal to noise.", kHidden, 0, 75,
+         kNumber, kLevel, kLeft, DECIBELS_OF(n.snrLast())},
         {QStringLiteral("SNR_AVG"), "Avg SNR", "The average ratio of signal to noise.", kHidden, 0,
          kMinimumWidth, kNumber, kText, kLeft, DECIBELS_OF(n.snrStatistic().avg)},
         {QStringLiteral("SNR_MIN"), "Min SNR", "The lowest ratio of signal to noise.", kHidden, 0,
@@ -153,8 +156,9 @@ std::vector<Column> makeRegistry()
         {QStringLiteral("CHANNEL"), "Channel", "The primary channel.", kShown, 0, kMinimumWidth,
          kStandard, kText, kRight, TEXT_OF(QString::number(n.channel()))},
         {QStringLiteral("CENTER_FREQUENCY"), "Center Frequency",
-         "The centre frequency of the primary channel.", kHidden, 0, kMinimumWidth, kStandard, kText,
-         kRight, [](const TSNetwork& n) { return QVariant(QString::number(n.centerFrequency())); },
+         "The centre frequency of the primary channel.", kHidden, 0, kMinimumWidth, kStandard,
+         kText, kRight,
+         [](const TSNetwork& n) { return QVariant(QString::number(n.centerFrequency())); },
          [](const TSNetwork& n, const CellContext&) {
              return withUnit(QString::number(n.centerFrequency()), "MHz");
          }},

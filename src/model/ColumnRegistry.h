@@ -6,7 +6,8 @@
 #include <span>
 #include <vector>
 
-namespace tessara {
+namespace tessara
+{
 
 class TSNetwork;
 

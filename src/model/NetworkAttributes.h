@@ -9,14 +9,15 @@
 #include <cstdint>
 #include <vector>
 
-namespace tessara {
+namespace tessara
+{
 
 /// What a record says of its network beyond the raw scan dictionary. `TSNetwork::setNetwork`
 /// writes all of it anew at each scan; the values here are those of a fresh record.
 struct NetworkAttributes {
-    QString ssid;        ///< from the elements; empty if they hold none
-    QString deviceName;  ///< announced by the access point, or saved
-    QString countryCode; ///< two upper-case letters, or empty
+    QString ssid;             ///< from the elements; empty if they hold none
+    QString deviceName;       ///< announced by the access point, or saved
+    QString countryCode;      ///< two upper-case letters, or empty
     std::int64_t channel = 0; ///< from the elements; 0 falls back on the dictionary
     ChannelWidth channelWidth = ChannelWidth::kUnknown;
     int secondaryChannelOffset = 0; ///< 0 none, 1 above, 3 below

@@ -4,7 +4,8 @@
 #include <array>
 #include <random>
 
-namespace tessara {
+namespace tessara
+{
 
 std::span<const QColor> NetworkColors::named()
 {
@@ -22,7 +23,10 @@ std::span<const QColor> NetworkColors::named()
     return colors;
 }
 
-NetworkColors::NetworkColors(std::function<double()> random) : m_random(std::move(random)) {}
+NetworkColors::NetworkColors(std::function<double()> random)
+    : m_random(std::move(random))
+{
+}
 
 QColor NetworkColors::next()
 {
@@ -43,11 +47,9 @@ QColor NetworkColors::next()
 
 QColor randomColor()
 {
-    static NetworkColors colors(
-        [engine = std::mt19937(std::random_device{}()),
-         range = std::uniform_real_distribution<double>(0.0, 1.0)]() mutable {
-            return range(engine);
-        });
+    static NetworkColors colors([engine = std::mt19937(std::random_device{}()),
+                                 range = std::uniform_real_distribution<double>(
+                                     0.0, 1.0)]() mutable { return range(engine); });
     return colors.next();
 }
 

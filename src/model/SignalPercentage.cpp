@@ -2,7 +2,8 @@
 
 #include <algorithm>
 
-namespace tessara {
+namespace tessara
+{
 
 std::int64_t signalPercentage(std::int64_t dBm)
 {

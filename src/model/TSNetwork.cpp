@@ -8,9 +8,11 @@
 
 #include <algorithm>
 
-namespace tessara {
+namespace tessara
+{
 
-namespace {
+namespace
+{
 
 QString normalizedBSSID(const QString& raw)
 {
@@ -29,15 +31,15 @@ QString normalizedBSSID(const QString& raw)
 /// The colour that the user chose for a network, or the next of the sequence.
 QColor colorFor(const QString& bssid)
 {
-    const QVariantMap chosen =
-        Defaults::standard().value(DefaultKey::UserDefinedColors).toMap();
+    const QVariantMap chosen = Defaults::standard().value(DefaultKey::UserDefinedColors).toMap();
     const QColor color(chosen.value(bssid).toString());
     return color.isValid() ? color : randomColor();
 }
 
 } // namespace
 
-TSNetwork::TSNetwork(ScanDictionary dictionary, double now) : m_lastSeen(now)
+TSNetwork::TSNetwork(ScanDictionary dictionary, double now)
+    : m_lastSeen(now)
 {
     setNetwork(std::move(dictionary));
     m_color = colorFor(bssid());
@@ -53,10 +55,9 @@ void TSNetwork::setNetwork(ScanDictionary dictionary)
 
 bool TSNetwork::bssidAndBandCompare(const ScanDictionary& dictionary) const
 {
-    return channelBand() == channelBandForChannel(dictionary.channelNumber.value_or(0))
-        && m_network.bssid.value_or(QString())
-                   .compare(dictionary.bssid.value_or(QString()), Qt::CaseInsensitive)
-            == 0;
+    return channelBand() == channelBandForChannel(dictionary.channelNumber.value_or(0)) &&
+           m_network.bssid.value_or(QString()).compare(dictionary.bssid.value_or(QString()),
+                                                       Qt::CaseInsensitive) == 0;
 }
 
 const QString& TSNetwork::bssid() const
@@ -126,8 +127,8 @@ std::int64_t TSNetwork::channel() const
 float TSNetwork::beaconInterval() const
 {
     constexpr double kMillisecondsPerTimeUnit = 1.024;
-    return static_cast<float>(static_cast<double>(m_network.beaconInterval.value_or(0))
-                              * kMillisecondsPerTimeUnit);
+    return static_cast<float>(static_cast<double>(m_network.beaconInterval.value_or(0)) *
+                              kMillisecondsPerTimeUnit);
 }
 
 std::size_t TSNetwork::informationElementsLength() const

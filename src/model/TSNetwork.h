@@ -15,14 +15,16 @@
 #include <optional>
 #include <vector>
 
-namespace tessara {
+namespace tessara
+{
 
 /// The record of one basic service set: one BSSID on one band, as the scanner has seen it.
 ///
 /// Created when a scan first reports it, it lives until the scan cycle drops it. Each later scan
 /// replaces its raw scan dictionary and appends one sample; everything else is derived. Records
 /// belong to the main thread.
-class TSNetwork {
+class TSNetwork
+{
 public:
     /// The longest history: at one sample every two seconds, some 18 hours.
     static constexpr std::size_t kMaxDataPoints = 32769;
@@ -81,7 +83,10 @@ public:
     /// Appends a sample, dropping the oldest at the cap, and counts its data in the statistics.
     void addDataPoint(const TSDataPoint& sample);
     /// A copy of the history, oldest first.
-    std::vector<TSDataPoint> dataPoints() const { return {m_dataPoints.begin(), m_dataPoints.end()}; }
+    std::vector<TSDataPoint> dataPoints() const
+    {
+        return {m_dataPoints.begin(), m_dataPoints.end()};
+    }
     /// The history itself, valid until the next sample.
     const std::deque<TSDataPoint>& history() const { return m_dataPoints; }
     std::optional<TSDataPoint> firstDataPoint() const;

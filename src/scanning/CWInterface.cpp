@@ -3,7 +3,8 @@
 #include "foundation/Defaults.h"
 #include "foundation/Logging.h"
 
-namespace tessara {
+namespace tessara
+{
 
 bool CWInterface::isAssociated() const
 {

@@ -3,9 +3,11 @@
 #include "elements/ElementRun.h"
 #include "model/SecurityMode.h"
 
-namespace tessara {
+namespace tessara
+{
 
-namespace {
+namespace
+{
 
 constexpr std::uint32_t kMicrosoftOUI = 0x0050F2;
 constexpr std::uint8_t kWPAType = 1;
@@ -15,8 +17,8 @@ constexpr std::uint8_t kWPAType = 1;
 bool CWNetwork::supportsSecurity(CWSecurity security) const
 {
     const ElementRun elements(informationElementData);
-    return security == CWSecurity::kWEP && privacy && !elements.find(ElementID::kRSN)
-        && !elements.hasVendorElement(kMicrosoftOUI, kWPAType);
+    return security == CWSecurity::kWEP && privacy && !elements.find(ElementID::kRSN) &&
+           !elements.hasVendorElement(kMicrosoftOUI, kWPAType);
 }
 
 ScanDictionary CWNetwork::dictionary() const
@@ -39,8 +41,8 @@ ScanDictionary CWNetwork::dictionary() const
 
 bool isSameNetwork(const CWNetwork& a, const CWNetwork& b)
 {
-    return a.bssid && b.bssid && a.wlanChannel.channelBand == b.wlanChannel.channelBand
-        && a.bssid->compare(*b.bssid, Qt::CaseInsensitive) == 0;
+    return a.bssid && b.bssid && a.wlanChannel.channelBand == b.wlanChannel.channelBand &&
+           a.bssid->compare(*b.bssid, Qt::CaseInsensitive) == 0;
 }
 
 } // namespace tessara

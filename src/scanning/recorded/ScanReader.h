@@ -7,7 +7,8 @@
 #include <memory>
 #include <optional>
 
-namespace tessara {
+namespace tessara
+{
 
 /// One scan of a file.
 struct RecordedScan {
@@ -18,7 +19,8 @@ struct RecordedScan {
 };
 
 /// Reads the scans of a file one by one, in the order of the file.
-class ScanReader {
+class ScanReader
+{
 public:
     virtual ~ScanReader() = default;
 
