@@ -53,13 +53,6 @@ void TSNetwork::setNetwork(ScanDictionary dictionary)
         m_network.securityMode.value_or(static_cast<std::int64_t>(SecurityMode::kUnknown)));
 }
 
-bool TSNetwork::bssidAndBandCompare(const ScanDictionary& dictionary) const
-{
-    return channelBand() == channelBandForChannel(dictionary.channelNumber.value_or(0)) &&
-           m_network.bssid.value_or(QString()).compare(dictionary.bssid.value_or(QString()),
-                                                       Qt::CaseInsensitive) == 0;
-}
-
 const QString& TSNetwork::bssid() const
 {
     if (m_bssid.isEmpty() && m_network.bssid)

@@ -2,6 +2,7 @@
 
 #include "model/Band.h"
 #include "model/NetworkAttributes.h"
+#include "model/NetworkKey.h"
 #include "model/RunningStatistic.h"
 #include "model/ScanDictionary.h"
 #include "model/TSDataPoint.h"
@@ -39,9 +40,18 @@ public:
     void setNetwork(ScanDictionary dictionary);
     const ScanDictionary& network() const { return m_network; }
 
-    /// Whether the dictionary is of this record: the same BSSID without regard to case, on the
-    /// same band. Its channel may have changed, its name plays no part.
-    bool bssidAndBandCompare(const ScanDictionary& dictionary) const;
+    /// What the dictionary is recognised by in later scans.
+    NetworkKey key() const { return {m_network.bssid.value_or(QString()), channelBand()}; }
+    /// Whether the dictionary is of this record.
+    bool bssidAndBandCompare(const ScanDictionary& dictionary) const
+    {
+        return key() == keyOf(dictionary);
+    }
+    static NetworkKey keyOf(const ScanDictionary& dictionary)
+    {
+        return {dictionary.bssid.value_or(QString()),
+                channelBandForChannel(dictionary.channelNumber.value_or(0))};
+    }
 
     // Identity --------------------------------------------------------------------------------
 

@@ -21,6 +21,13 @@ bool CWNetwork::supportsSecurity(CWSecurity security) const
            !elements.hasVendorElement(kMicrosoftOUI, kWPAType);
 }
 
+std::optional<NetworkKey> CWNetwork::key() const
+{
+    if (!bssid)
+        return std::nullopt;
+    return NetworkKey{*bssid, wlanChannel.channelBand};
+}
+
 ScanDictionary CWNetwork::dictionary() const
 {
     const SecurityMode security =
@@ -37,12 +44,6 @@ ScanDictionary CWNetwork::dictionary() const
     result.phyMode = 0;
     result.securityMode = static_cast<std::int64_t>(security);
     return result;
-}
-
-bool isSameNetwork(const CWNetwork& a, const CWNetwork& b)
-{
-    return a.bssid && b.bssid && a.wlanChannel.channelBand == b.wlanChannel.channelBand &&
-           a.bssid->compare(*b.bssid, Qt::CaseInsensitive) == 0;
 }
 
 } // namespace tessara

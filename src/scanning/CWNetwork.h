@@ -2,6 +2,7 @@
 
 #include "model/Band.h"
 #include "model/ChannelWidth.h"
+#include "model/NetworkKey.h"
 #include "model/ScanDictionary.h"
 
 #include <QByteArray>
@@ -43,12 +44,11 @@ public:
     /// WEP: the Privacy bit is set and no RSN or WPA element says how else it is protected.
     bool supportsSecurity(CWSecurity security) const;
 
+    /// What makes this and another result one network; a result without a BSSID has no key.
+    std::optional<NetworkKey> key() const;
+
     /// The raw scan dictionary of this network.
     ScanDictionary dictionary() const;
 };
-
-/// Whether two results are of one network: the same band, and the same BSSID without regard to
-/// case. Without a BSSID a result is like no other.
-bool isSameNetwork(const CWNetwork& a, const CWNetwork& b);
 
 } // namespace tessara
