@@ -7,12 +7,17 @@
 #include <memory>
 #include <vector>
 
-namespace tessara {
+namespace tessara
+{
 
 /// Time that a test moves by hand. Timers fire while it moves, each at its own time.
-class ManualClock final : public Clock {
+class ManualClock final : public Clock
+{
 public:
-    explicit ManualClock(double start = 1'700'000'000.0) : m_now(start) {}
+    explicit ManualClock(double start = 1'700'000'000.0)
+        : m_now(start)
+    {
+    }
 
     double now() const override { return m_now; }
 
@@ -45,7 +50,9 @@ public:
 private:
     struct Schedule {
         Schedule(double d, double i, std::function<void()> a)
-            : due(d), interval(i), action(std::move(a))
+            : due(d)
+            , interval(i)
+            , action(std::move(a))
         {
         }
         double due;
@@ -53,7 +60,10 @@ private:
         std::function<void()> action;
     };
     struct Handle final : RepeatingTimer {
-        explicit Handle(std::shared_ptr<Schedule> s) : schedule(std::move(s)) {}
+        explicit Handle(std::shared_ptr<Schedule> s)
+            : schedule(std::move(s))
+        {
+        }
         std::shared_ptr<Schedule> schedule;
     };
 
@@ -73,9 +83,13 @@ private:
 };
 
 /// Sleeps by moving a manual clock, and remembers each sleep.
-class ManualPause final : public Pause {
+class ManualPause final : public Pause
+{
 public:
-    explicit ManualPause(ManualClock& clock) : m_clock(clock) {}
+    explicit ManualPause(ManualClock& clock)
+        : m_clock(clock)
+    {
+    }
 
     bool sleep(double seconds) override
     {

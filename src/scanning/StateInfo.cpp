@@ -1,0 +1,43 @@
+#include "scanning/StateInfo.h"
+
+#include "foundation/Localized.h"
+#include "scanning/CWInterface.h"
+
+namespace tessara
+{
+
+namespace
+{
+
+QString associationText(const CWInterface& interface)
+{
+    if (!interface.isAssociated())
+        return localized("Not associated");
+    const auto channel = interface.wlanChannel();
+    return QStringLiteral("%1: %2, Ch %3, %4 MHz, %5 Mbps")
+        .arg(localized("Associated"), interface.ssid().value_or(QString()))
+        .arg(channel ? channel->channelNumber : 0)
+        .arg(interface.channelWidth())
+        .arg(interface.transmitRate(), 0, 'f', 0);
+}
+
+} // namespace
+
+StateInfo stateInfo(bool isScanning, const QString& windowTitle, const CWInterface* interface)
+{
+    const bool showsScan = isScanning || windowTitle.startsWith(QStringView(kApplicationTitle));
+    if (!showsScan) {
+        if (windowTitle == localized("Data from Clipboard"))
+            return {windowTitle, {}};
+        const QString lastComponent = windowTitle.section(u'/', -1);
+        return {QStringLiteral("File: %1").arg(lastComponent), windowTitle};
+    }
+    if (!interface)
+        return {};
+    const QString mode = localized(isScanning ? "Scanning" : "Not scanning");
+    return {QStringLiteral("%1: %2  |  %3")
+                .arg(interface->interfaceName(), mode, associationText(*interface)),
+            {}};
+}
+
+} // namespace tessara
