@@ -14,11 +14,12 @@ QString associationText(const CWInterface& interface)
     if (!interface.isAssociated())
         return localized("Not associated");
     const auto channel = interface.wlanChannel();
+    // All at once: a name may hold a "%1" of its own.
     return QStringLiteral("%1: %2, Ch %3, %4 MHz, %5 Mbps")
-        .arg(localized("Associated"), interface.ssid().value_or(QString()))
-        .arg(channel ? channel->channelNumber : 0)
-        .arg(interface.channelWidth())
-        .arg(interface.transmitRate(), 0, 'f', 0);
+        .arg(localized("Associated"), interface.ssid().value_or(QString()),
+             QString::number(channel ? channel->channelNumber : 0),
+             QString::number(interface.channelWidth()),
+             QString::number(interface.transmitRate(), 'f', 0));
 }
 
 } // namespace
