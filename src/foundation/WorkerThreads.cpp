@@ -1,6 +1,7 @@
 #include "foundation/WorkerThreads.h"
 
-namespace tessara {
+namespace tessara
+{
 
 WorkerThreads::~WorkerThreads()
 {

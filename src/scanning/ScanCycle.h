@@ -75,6 +75,11 @@ public:
     bool isScanning() const { return m_isScanning; }
     const std::shared_ptr<CWInterface>& currentInterface() const { return m_currentInterface; }
     const NetworkList& networks() const { return m_networks; }
+    /// What the engine has left; none before the first scan and while nothing is scanning.
+    SharedScanResults latestResults() const
+    {
+        return m_scanEngine ? m_scanEngine->results() : nullptr;
+    }
     /// Seconds since 1970 of the latest delivery to the views; 0 before the first.
     double lastScanTime() const { return m_lastScanTime; }
     /// A file is to be shown at launch: no scan starts by itself.

@@ -1,0 +1,27 @@
+#include "cli/Command.h"
+
+#include <QTextStream>
+
+namespace tessara
+{
+
+std::span<const Command> commands()
+{
+    static const Command all[] = {kNetworksCommand, kConvertCommand, kScanCommand,
+                                  kInterfacesCommand};
+    return all;
+}
+
+void complain(const QString& message)
+{
+    QTextStream(stderr) << "tessara-cli: " << message << Qt::endl;
+}
+
+ExitStatus wrongUsage(const QString& message)
+{
+    complain(message);
+    QTextStream(stderr) << "Try 'tessara-cli --help'." << Qt::endl;
+    return kWrongUsage;
+}
+
+} // namespace tessara

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "filtering/DisplayPipeline.h"
+#include "model/ColumnRegistry.h"
+
+#include <QCommandLineParser>
+
+#include <vector>
+
+namespace tessara
+{
+
+/// How a list of networks is to be printed.
+struct ListOptions {
+    enum class Format { kTable, kJSON };
+
+    std::vector<SortDescriptor> sort;
+    std::vector<const Column*> columns;
+    Format format = Format::kTable;
+};
+
+/// --sort COLUMN[:desc], --columns ID,…, --format table|json
+void addListOptions(QCommandLineParser& parser);
+
+/// @param error what is wrong, if something is
+/// @return none on an error
+std::optional<ListOptions> listOptions(const QCommandLineParser& parser, QString& error);
+
+/// Prints the list of a pipeline to standard output.
+/// @param lastScanTime seconds since 1970
+void printList(const DisplayPipeline& pipeline, const ListOptions& options,
+               const CellContext& context, double lastScanTime);
+
+/// How cells are to be shown, by the settings.
+CellContext cellContext(bool isScanning);
+
+} // namespace tessara

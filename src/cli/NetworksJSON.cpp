@@ -1,0 +1,87 @@
+#include "cli/NetworksJSON.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+namespace tessara
+{
+
+namespace
+{
+
+QJsonValue number(std::int64_t value)
+{
+    return QJsonValue(static_cast<qint64>(value));
+}
+
+QJsonValue textOrNull(const QString& text)
+{
+    return text.isEmpty() ? QJsonValue() : QJsonValue(text);
+}
+
+void insertStatistic(QJsonObject& record, const QString& name, const RunningStatistic& statistic)
+{
+    record[name + QStringLiteral("Avg")] = number(statistic.avg);
+    record[name + QStringLiteral("Min")] = number(statistic.min);
+    record[name + QStringLiteral("Max")] = number(statistic.max);
+}
+
+QJsonObject recordJSON(const TSNetwork& network)
+{
+    const NetworkAttributes& attributes = network.attributes();
+    const auto vendor = network.vendor();
+    QJsonObject record{
+        {QStringLiteral("bssid"), network.bssid()},
+        {QStringLiteral("vendor"), vendor ? QJsonValue(*vendor) : QJsonValue()},
+        {QStringLiteral("ssid"), network.ssid()},
+        {QStringLiteral("isHidden"), network.isHidden()},
+        {QStringLiteral("deviceName"), textOrNull(network.deviceName())},
+        {QStringLiteral("annotations"), network.annotations()},
+        {QStringLiteral("channel"), number(network.channel())},
+        {QStringLiteral("centerFrequency"), number(network.centerFrequency())},
+        {QStringLiteral("stationCount"), number(network.stationCount())},
+        {QStringLiteral("channelUtilization"), number(network.channelUtilization())},
+        {QStringLiteral("channelUtilizationMax"), number(attributes.channelUtilizationMax)},
+        {QStringLiteral("phyMode"), number(attributes.phyMode)},
+        {QStringLiteral("securityMode"),
+         number(static_cast<std::int64_t>(attributes.securityMode))},
+        {QStringLiteral("beaconInterval"), network.beaconInterval()},
+        {QStringLiteral("lastSeen"), network.lastSeen()},
+        {QStringLiteral("lastSeenElapsedSeconds"), network.lastSeenElapsedSeconds()},
+        {QStringLiteral("rssi"), number(network.rssi())},
+        {QStringLiteral("noise"), number(network.noise())},
+        {QStringLiteral("rssiLast"), number(network.rssiLast())},
+        {QStringLiteral("noiseLast"), number(network.noiseLast())},
+        {QStringLiteral("snrLast"), number(network.snrLast())},
+        {QStringLiteral("dataPoints"), number(static_cast<std::int64_t>(network.history().size()))},
+    };
+    insertStatistic(record, QStringLiteral("rssi"), network.rssiStatistic());
+    insertStatistic(record, QStringLiteral("noise"), network.noiseStatistic());
+    insertStatistic(record, QStringLiteral("snr"), network.snrStatistic());
+    insertStatistic(record, QStringLiteral("snrPerc"), network.snrPercStatistic());
+    return record;
+}
+
+} // namespace
+
+QByteArray networksJSON(const NetworkList& networks, const CellContext& context,
+                        double lastScanTime)
+{
+    QJsonArray list;
+    for (const NetworkPtr& network : networks) {
+        QJsonObject columns;
+        for (const Column& column : columnRegistry()) {
+            if (column.cell != CellKind::kMarker)
+                columns[column.identifier] = column.text(*network, context);
+        }
+        list.append(QJsonObject{{QStringLiteral("columns"), columns},
+                                {QStringLiteral("record"), recordJSON(*network)}});
+    }
+    const QJsonObject root{{QStringLiteral("lastScanTime"), lastScanTime},
+                           {QStringLiteral("filterIdentifiers"), QJsonArray()},
+                           {QStringLiteral("networks"), list}};
+    return QJsonDocument(root).toJson(QJsonDocument::Indented).trimmed();
+}
+
+} // namespace tessara

@@ -1,0 +1,98 @@
+#include "cli/Command.h"
+#include "cli/ListOptions.h"
+#include "cli/ScanSession.h"
+#include "foundation/Defaults.h"
+#include "foundation/TerminationSignals.h"
+#include "scanning/SystemWiFiService.h"
+
+#include <QCoreApplication>
+#include <QTimer>
+
+#include <chrono>
+#include <cmath>
+
+namespace tessara
+{
+
+namespace
+{
+
+void addOptions(QCommandLineParser& parser)
+{
+    addListOptions(parser);
+    parser.addOptions({
+        {QStringLiteral("interface"),
+         QStringLiteral("Scan with this interface; 'recorded:FILE' plays FILE as one."),
+         QStringLiteral("NAME")},
+        {QStringLiteral("duration"), QStringLiteral("Stop after this time (at Control-C)."),
+         QStringLiteral("SECONDS")},
+        {QStringLiteral("save"),
+         QStringLiteral("Record the scans to FILE (.jsonl, .jsonl.gz) instead of a table."),
+         QStringLiteral("FILE")},
+        {QStringLiteral("watch"), QStringLiteral("Repaint the table in place every 2 seconds.")},
+    });
+}
+
+/// The time to scan for, in seconds; 0 without the option, none where it is wrong.
+std::optional<double> duration(const QCommandLineParser& parser)
+{
+    const QString text = parser.value(QStringLiteral("duration"));
+    if (text.isEmpty())
+        return 0.0;
+    bool ok = false;
+    const double seconds = text.toDouble(&ok);
+    constexpr double kLongest = 30.0 * 24 * 3600;
+    return ok && seconds > 0 && seconds <= kLongest ? std::optional(seconds) : std::nullopt;
+}
+
+ExitStatus run(const QCommandLineParser& parser, const QStringList& arguments)
+{
+    if (!arguments.isEmpty())
+        return wrongUsage(QStringLiteral("scan takes no arguments, only options"));
+    QString error;
+    const auto list = listOptions(parser, error);
+    if (!list)
+        return wrongUsage(error);
+    const auto seconds = duration(parser);
+    if (!seconds)
+        return wrongUsage(QStringLiteral("--duration takes a number of seconds above 0"));
+    ScanSession::Options options{*list, std::nullopt, parser.isSet(QStringLiteral("watch"))};
+    if (parser.isSet(QStringLiteral("save")))
+        options.saveTo = parser.value(QStringLiteral("save"));
+
+    ScanRuntime runtime;
+    SystemWiFiService service(runtime.clock(), runtime.pause(), runtime.notifications());
+    const QString name = parser.value(QStringLiteral("interface"));
+    const auto interface =
+        name.isEmpty() ? chooseInterface(service) : service.interfaceWithName(name);
+    if (!interface) {
+        complain(name.isEmpty() ? QStringLiteral("this machine has no Wi-Fi interface")
+                                : QStringLiteral("there is no Wi-Fi interface '%1'").arg(name));
+        return kFailed;
+    }
+
+    ScanSession session(runtime, interface, options);
+    const TerminationSignals signalsOfTheUser([] { QCoreApplication::quit(); });
+    QObject::connect(&session, &ScanSession::failed, qApp, &QCoreApplication::quit);
+    if (*seconds > 0) {
+        QTimer::singleShot(std::chrono::milliseconds(std::llround(*seconds * 1000)), qApp,
+                           &QCoreApplication::quit);
+    }
+    session.start();
+    QCoreApplication::exec();
+
+    error = session.finish();
+    if (error.isEmpty())
+        return kDone;
+    complain(error);
+    return kFailed;
+}
+
+} // namespace
+
+const Command kScanCommand = {"scan", "",
+                              "Scans until the duration is over or Control-C; ends with the table, "
+                              "or with the file saved.",
+                              addOptions, run};
+
+} // namespace tessara

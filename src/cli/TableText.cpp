@@ -1,0 +1,63 @@
+#include "cli/TableText.h"
+
+#include "cli/Terminal.h"
+#include "foundation/Localized.h"
+
+#include <algorithm>
+#include <numeric>
+
+namespace tessara
+{
+
+namespace
+{
+
+constexpr int kGap = 2;       ///< blanks between two columns
+constexpr int kNarrowest = 4; ///< a column is not cut below this
+
+/// Takes from the widest column until the line fits or nothing more can be taken.
+void narrow(std::vector<int>& widths, int available)
+{
+    int total = std::accumulate(widths.begin(), widths.end(), 0);
+    while (total > available) {
+        int& widest = *std::ranges::max_element(widths);
+        if (widest <= kNarrowest)
+            return;
+        --widest;
+        --total;
+    }
+}
+
+} // namespace
+
+QStringList tableText(const NetworkList& networks, const std::vector<const Column*>& columns,
+                      const CellContext& context, int width)
+{
+    std::vector<QStringList> lines(networks.size() + 1);
+    std::vector<int> widths;
+    for (const Column* column : columns) {
+        lines[0] += localized(column->title);
+        for (std::size_t row = 0; row < networks.size(); ++row)
+            lines[row + 1] += harmless(column->text(*networks[row], context));
+        int widest = 0;
+        for (const QStringList& line : lines)
+            widest = std::max(widest, displayWidth(line.back()));
+        widths.push_back(widest);
+    }
+    if (width > 0)
+        narrow(widths, width - kGap * (static_cast<int>(columns.size()) - 1));
+
+    QStringList table;
+    for (const QStringList& line : lines) {
+        QStringList cells;
+        for (std::size_t i = 0; i < columns.size(); ++i)
+            cells += fitted(line[static_cast<qsizetype>(i)], widths[i], columns[i]->alignsRight);
+        QString text = cells.join(QString(kGap, u' '));
+        while (text.endsWith(u' '))
+            text.chop(1);
+        table += text;
+    }
+    return table;
+}
+
+} // namespace tessara

@@ -1,0 +1,80 @@
+#include "cli/Terminal.h"
+
+#include <algorithm>
+#include <cwchar>
+#include <sys/ioctl.h>
+#include <unistd.h>
+
+namespace tessara
+{
+
+namespace
+{
+
+int widthOf(char32_t character)
+{
+    return std::max(0, ::wcwidth(static_cast<wchar_t>(character)));
+}
+
+} // namespace
+
+bool isStandardOutputTerminal()
+{
+    return ::isatty(STDOUT_FILENO) != 0;
+}
+
+TerminalSize terminalSize()
+{
+    winsize size{};
+    if (::ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) != 0 || size.ws_col == 0 || size.ws_row == 0)
+        return {};
+    return {size.ws_col, size.ws_row};
+}
+
+QString harmless(const QString& text)
+{
+    QString result;
+    result.reserve(text.size());
+    for (const char32_t character : text.toUcs4()) {
+        switch (QChar::category(character)) {
+        case QChar::Other_Control:
+        case QChar::Other_Format:
+        case QChar::Other_Surrogate:
+        case QChar::Separator_Line:
+        case QChar::Separator_Paragraph:
+            result += QChar(QChar::ReplacementCharacter);
+            break;
+        default:
+            result += QChar::fromUcs4(character);
+        }
+    }
+    return result;
+}
+
+int displayWidth(const QString& text)
+{
+    int width = 0;
+    for (const char32_t character : text.toUcs4())
+        width += widthOf(character);
+    return width;
+}
+
+QString fitted(const QString& text, int width, bool alignsRight)
+{
+    const int needed = displayWidth(text);
+    if (needed <= width) {
+        const QString padding(width - needed, u' ');
+        return alignsRight ? padding + text : text + padding;
+    }
+    QString cut;
+    int used = 0;
+    for (const char32_t character : text.toUcs4()) {
+        if (used + widthOf(character) > width - 1)
+            break;
+        used += widthOf(character);
+        cut += QChar::fromUcs4(character);
+    }
+    return width < 1 ? QString() : cut + u'…' + QString(width - 1 - used, u' ');
+}
+
+} // namespace tessara

@@ -1,0 +1,79 @@
+#include "cli/Command.h"
+#include "cli/SettingsOptions.h"
+
+#include <QCoreApplication>
+#include <QTextStream>
+
+#include <algorithm>
+#include <clocale>
+
+using namespace tessara;
+
+namespace
+{
+
+void printCommands(QTextStream& out)
+{
+    out << "Usage: tessara-cli COMMAND [options]\n"
+           "Tessara's parts without a window.\n\n"
+           "Commands:\n";
+    for (const Command& command : commands()) {
+        out << "  " << command.name << ' ' << command.synopsis << "\n      " << command.summary
+            << '\n';
+    }
+    out << "\n'tessara-cli COMMAND --help' lists the options of a command.\n"
+           "Exit status: 0 done, 1 the work failed, 2 wrong usage.\n";
+}
+
+ExitStatus runCommand(const Command& command, const QStringList& words)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QString::fromUtf8(command.summary));
+    const QCommandLineOption help = parser.addHelpOption();
+    parser.addPositionalArgument(QString::fromUtf8(command.name), QString(),
+                                 QString::fromUtf8(command.name) + u' ' +
+                                     QString::fromUtf8(command.synopsis));
+    addSettingsOptions(parser);
+    command.addOptions(parser);
+    if (!parser.parse(words))
+        return wrongUsage(parser.errorText());
+    if (parser.isSet(help)) {
+        QTextStream(stdout) << parser.helpText();
+        return kDone;
+    }
+    if (const QString error = applySettingsOptions(parser); !error.isEmpty())
+        return wrongUsage(error);
+    return command.run(parser, parser.positionalArguments().mid(1));
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    std::setlocale(LC_ALL, ""); // the terminal's widths of characters depend on it
+    const QCoreApplication application(argc, argv);
+    QCoreApplication::setOrganizationName(QStringLiteral("Tessara"));
+    QCoreApplication::setApplicationName(QStringLiteral("tessara"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(TESSARA_VERSION));
+    qSetMessagePattern(QStringLiteral("tessara-cli: %{message}"));
+
+    const QStringList words = QCoreApplication::arguments();
+    const QString name = words.value(1);
+    if (name == QLatin1String("--version") || name == QLatin1String("-v")) {
+        QTextStream(stdout) << "tessara-cli " << TESSARA_VERSION << '\n';
+        return kDone;
+    }
+    if (name == QLatin1String("--help") || name == QLatin1String("-h") ||
+        name == QLatin1String("help")) {
+        QTextStream out(stdout);
+        printCommands(out);
+        return kDone;
+    }
+    const auto found = std::ranges::find(
+        commands(), name, [](const Command& command) { return QString::fromLatin1(command.name); });
+    if (found == commands().end()) {
+        return wrongUsage(name.isEmpty() ? QStringLiteral("which command?")
+                                         : QStringLiteral("there is no command '%1'").arg(name));
+    }
+    return runCommand(*found, words);
+}

@@ -1,0 +1,50 @@
+#include "foundation/TerminationSignals.h"
+
+#include <QSocketNotifier>
+
+#include <csignal>
+#include <sys/signalfd.h>
+#include <unistd.h>
+
+namespace tessara
+{
+
+namespace
+{
+
+sigset_t terminationSignals()
+{
+    sigset_t set;
+    sigemptyset(&set);
+    for (const int signal : {SIGINT, SIGTERM, SIGHUP})
+        sigaddset(&set, signal);
+    return set;
+}
+
+} // namespace
+
+TerminationSignals::TerminationSignals(std::function<void()> onSignal)
+{
+    // Blocked here, and in the threads that are started from now on: read from the descriptor.
+    const sigset_t set = terminationSignals();
+    ::pthread_sigmask(SIG_BLOCK, &set, nullptr);
+    const int descriptor = ::signalfd(-1, &set, SFD_CLOEXEC | SFD_NONBLOCK);
+    m_notifier = std::make_unique<QSocketNotifier>(descriptor, QSocketNotifier::Read);
+    QObject::connect(m_notifier.get(), &QSocketNotifier::activated,
+                     [descriptor, action = std::move(onSignal)] {
+                         signalfd_siginfo info{};
+                         if (::read(descriptor, &info, sizeof info) == sizeof info)
+                             action();
+                     });
+}
+
+TerminationSignals::~TerminationSignals()
+{
+    const int descriptor = static_cast<int>(m_notifier->socket());
+    m_notifier.reset();
+    ::close(descriptor);
+    const sigset_t set = terminationSignals();
+    ::pthread_sigmask(SIG_UNBLOCK, &set, nullptr);
+}
+
+} // namespace tessara

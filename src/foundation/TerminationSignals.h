@@ -1,0 +1,25 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+
+class QSocketNotifier;
+
+namespace tessara
+{
+
+/// Turns the signals by which a user or the system asks a program to end (SIGINT, SIGTERM, SIGHUP)
+/// into a call from the event loop, for as long as this lives. One at a time.
+class TerminationSignals
+{
+public:
+    explicit TerminationSignals(std::function<void()> onSignal);
+    ~TerminationSignals();
+    TerminationSignals(const TerminationSignals&) = delete;
+    TerminationSignals& operator=(const TerminationSignals&) = delete;
+
+private:
+    std::unique_ptr<QSocketNotifier> m_notifier;
+};
+
+} // namespace tessara
