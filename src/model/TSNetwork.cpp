@@ -51,6 +51,7 @@ void TSNetwork::setNetwork(ScanDictionary dictionary)
     m_attributes.phyMode = m_network.phyMode.value_or(0);
     m_attributes.securityMode = static_cast<SecurityMode>(
         m_network.securityMode.value_or(static_cast<std::int64_t>(SecurityMode::kUnknown)));
+    m_keyHash = NetworkKey::Hash()(keyOf(m_network, channelBand()));
 }
 
 const QString& TSNetwork::bssid() const

@@ -40,17 +40,16 @@ public:
     void setNetwork(ScanDictionary dictionary);
     const ScanDictionary& network() const { return m_network; }
 
-    /// What the dictionary is recognised by in later scans.
-    NetworkKey key() const { return {m_network.bssid.value_or(QString()), channelBand()}; }
-    /// Whether the dictionary is of this record.
+    /// Whether the dictionary is of this record: what it is recognised by in later scans.
     bool bssidAndBandCompare(const ScanDictionary& dictionary) const
     {
-        return key() == keyOf(dictionary);
+        return keyOf(m_network, channelBand()) == keyOf(dictionary);
     }
-    static NetworkKey keyOf(const ScanDictionary& dictionary)
+    /// Equal for a record and the dictionaries that are of it.
+    std::size_t keyHash() const { return m_keyHash; }
+    static std::size_t keyHashOf(const ScanDictionary& dictionary)
     {
-        return {dictionary.bssid.value_or(QString()),
-                channelBandForChannel(dictionary.channelNumber.value_or(0))};
+        return NetworkKey::Hash()(keyOf(dictionary));
     }
 
     // Identity --------------------------------------------------------------------------------
@@ -153,14 +152,19 @@ private:
     std::int64_t current(Reading reading) const;
     std::int64_t newest(Reading reading, std::uint64_t ordinal, std::int64_t absent) const;
 
-    ScanDictionary m_network;
-    NetworkAttributes m_attributes;
+    static NetworkKey keyOf(const ScanDictionary& dictionary, Band band)
+    {
+        return {dictionary.bssid.value_or(QString()), band};
+    }
+    static NetworkKey keyOf(const ScanDictionary& dictionary)
+    {
+        return keyOf(dictionary, channelBandForChannel(dictionary.channelNumber.value_or(0)));
+    }
 
-    // Computed on first use.
-    mutable QString m_bssid;
-    mutable std::optional<QString> m_vendor;
-    mutable std::optional<QString> m_annotations;
-
+    // What every tick touches stands together, at the front.
+    std::size_t m_keyHash = 0;
+    double m_lastSeen;
+    double m_lastSeenElapsedSeconds = 0;
     std::deque<TSDataPoint> m_dataPoints;
     // Ordinals of samples, from 1 for the first one ever added: all of them, and the newest with
     // a reading. Searching back would cost the more the longer a network is out of sight.
@@ -176,8 +180,14 @@ private:
     std::int64_t m_lastSNR = 0;
     std::int64_t m_lastSNRPerc = 0;
 
-    double m_lastSeen;
-    double m_lastSeenElapsedSeconds = 0;
+    ScanDictionary m_network;
+    NetworkAttributes m_attributes;
+
+    // Computed on first use.
+    mutable QString m_bssid;
+    mutable std::optional<QString> m_vendor;
+    mutable std::optional<QString> m_annotations;
+
     QColor m_color;
     bool m_loadedFromFile = false;
     bool m_userHidden = false;

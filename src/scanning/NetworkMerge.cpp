@@ -2,8 +2,9 @@
 
 #include "foundation/Defaults.h"
 
-#include <algorithm>
-#include <unordered_map>
+#include <bit>
+#include <limits>
+#include <utility>
 
 namespace tessara
 {
@@ -25,59 +26,69 @@ double ageLimit(const Defaults& defaults)
     return kSeconds[code - 1];
 }
 
-/// Finds the record of a dictionary as a search of the list in order would.
+/// Finds the record of a dictionary as a search of the list in order would: a hash table whose
+/// chains run through the places of the list, each chain in ascending order.
 class RecordIndex
 {
 public:
-    explicit RecordIndex(const NetworkList& records)
+    /// Keeps a reference to the list, to which records may be appended.
+    explicit RecordIndex(const NetworkList& records, std::size_t expected)
+        : m_records(records)
+        , m_heads(std::bit_ceil(2 * expected + 1), kEnd)
     {
-        m_places.reserve(records.size());
-        for (std::size_t place = 0; place < records.size(); ++place)
-            add(records[place]->key(), place);
+        m_next.resize(records.size(), kEnd);
+        for (Place place = static_cast<Place>(records.size()); place-- > 0;)
+            m_next[place] = std::exchange(headOf(records[place]->keyHash()), place);
     }
 
-    std::optional<std::size_t> find(const NetworkKey& key) const
+    TSNetwork* find(const ScanDictionary& dictionary) const
     {
-        const auto found = m_places.find(key);
-        return found == m_places.end() ? std::nullopt : std::optional(found->second.first);
-    }
-
-    void add(const NetworkKey& key, std::size_t place)
-    {
-        const auto [entry, isNew] = m_places.try_emplace(key, Places{place, {}});
-        if (isNew)
-            return;
-        Places& places = entry->second;
-        if (place < places.first)
-            std::swap(place, places.first);
-        places.others.insert(std::ranges::upper_bound(places.others, place), place);
-    }
-
-    /// The elements of a network can put it on another band than before.
-    void move(const NetworkKey& from, const NetworkKey& to, std::size_t place)
-    {
-        if (from == to)
-            return;
-        const auto entry = m_places.find(from);
-        Places& places = entry->second;
-        if (places.first != place) {
-            std::erase(places.others, place);
-        } else if (places.others.empty()) {
-            m_places.erase(entry);
-        } else {
-            places.first = places.others.front();
-            places.others.erase(places.others.begin());
+        const std::size_t hash = TSNetwork::keyHashOf(dictionary);
+        for (Place place = headOf(hash); place != kEnd; place = m_next[place]) {
+            TSNetwork& record = *m_records[place];
+            if (record.keyHash() == hash && record.bssidAndBandCompare(dictionary))
+                return &record;
         }
-        add(to, place);
+        return nullptr;
+    }
+
+    /// Takes in the record that was just appended to the list.
+    void addLast()
+    {
+        m_next.push_back(kEnd);
+        link(static_cast<Place>(m_records.size() - 1));
+    }
+
+    /// Takes in that the key of a record was `oldHash` and is another now: the elements of a
+    /// network can put it on another band than before.
+    void move(const TSNetwork* record, std::size_t oldHash)
+    {
+        Place* link = &headOf(oldHash);
+        while (m_records[*link].get() != record)
+            link = &m_next[*link];
+        const Place place = *link;
+        *link = m_next[place];
+        this->link(place);
     }
 
 private:
-    /// Almost always one; several records can share a key after a move.
-    struct Places {
-        std::size_t first;
-        std::vector<std::size_t> others; ///< ascending
-    };
-    std::unordered_map<NetworkKey, Places, NetworkKey::Hash> m_places;
+    using Place = std::uint32_t;
+    static constexpr Place kEnd = std::numeric_limits<Place>::max();
+
+    const Place& headOf(std::size_t hash) const { return m_heads[hash & (m_heads.size() - 1)]; }
+    Place& headOf(std::size_t hash) { return m_heads[hash & (m_heads.size() - 1)]; }
+
+    void link(Place place)
+    {
+        Place* link = &headOf(m_records[place]->keyHash());
+        while (*link < place)
+            link = &m_next[*link];
+        m_next[place] = std::exchange(*link, place);
+    }
+
+    const NetworkList& m_records;
+    std::vector<Place> m_heads; ///< a power of two of chains
+    std::vector<Place> m_next;  ///< of each place, the next in its chain
 };
 
 void addSample(TSNetwork& network, std::int64_t rssi, std::int64_t noise, double scanTime)
@@ -149,18 +160,19 @@ NetworkList mergeNetworks(const ScanResults& results, const NetworkList& network
                           const MergeLimits& limits)
 {
     NetworkList merged = networks;
-    RecordIndex index(merged);
+    RecordIndex index(merged, networks.size() + results.size());
 
     for (const ScanDictionary& dictionary : results) {
         if (limits.weakestSignal && dictionary.rssiValue.value_or(0) < *limits.weakestSignal)
             continue;
-        const NetworkKey key = TSNetwork::keyOf(dictionary);
-        if (const auto place = index.find(key)) {
-            update(*merged[*place], dictionary, scanTime);
-            index.move(key, merged[*place]->key(), *place);
-        } else if (NetworkPtr network = create(dictionary, scanTime)) {
-            index.add(network->key(), merged.size());
-            merged.push_back(std::move(network));
+        if (TSNetwork* network = index.find(dictionary)) {
+            const std::size_t hash = network->keyHash();
+            update(*network, dictionary, scanTime);
+            if (network->keyHash() != hash)
+                index.move(network, hash);
+        } else if (NetworkPtr created = create(dictionary, scanTime)) {
+            merged.push_back(std::move(created));
+            index.addLast();
         }
     }
 
