@@ -1,0 +1,1 @@
+"""Makes recordings of invented places; see docs/recordings.md."""
