@@ -10,7 +10,7 @@ _RSN, _VENDOR = 48, 221
 
 def _privacy(network: dict[str, Any], elements: bytes) -> bool:
     """The Privacy bit: WEP, or an RSN or WPA element."""
-    position, seen = 0, network["securityMode"] == 1
+    position, seen = 0, bool(network["securityMode"] == 1)
     while position < len(elements):
         identifier, length = elements[position], elements[position + 1]
         content = elements[position + 2:position + 2 + length]

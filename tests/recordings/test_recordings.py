@@ -7,13 +7,13 @@ import subprocess
 import tempfile
 import unittest
 from collections import defaultdict
-from collections.abc import Iterator
+from collections.abc import Callable, Iterator
 from pathlib import Path
 from typing import Any
 
 from frames import capture
 from recording.beacon import Beacon
-from recording.place import Place, read_place
+from recording.place import read_place
 
 ROOT = Path(__file__).resolve().parents[2]
 DESCRIPTIONS = sorted((ROOT / "recordings").glob("*.toml"))
@@ -103,7 +103,7 @@ WIDTH_FIELDS = ("wlan.ht.info.secchanoffset", "wlan.vht.op.channelwidth",
                 "wlan.vht.op.channelcenter0", "wlan.vht.op.channelcenter1")
 
 # What tshark shows of a feature, and which networks are to have it.
-FEATURES: dict[str, Any] = {
+FEATURES: dict[str, Callable[[Beacon], object]] = {
     "wlan.qbss.scount": lambda b: b.has("bss-load"),
     "wlan.rmcap": lambda b: b.has("rm"),
     "wlan.extcap.b19": lambda b: b.has("bss-transition"),
@@ -135,51 +135,57 @@ IDENTITY = ("wlan.bssid", "wlan.ds.current_channel", "wlan.ht.info.primarychanne
 FIELDS = [*IDENTITY, *SECURITY_FIELDS, *WIDTH_FIELDS, *FEATURES, *EVENTS]
 
 
-def decode(networks: list[dict[str, Any]], folder: Path) -> list[dict[str, str]]:
-    """The fields of each network as tshark sees them; several values of a field by semicolons."""
-    file = folder / "beacons.pcap"
-    file.write_bytes(capture(networks))
-    command = ["tshark", "-n", "-r", file, "-T", "fields", "-E", "separator=/t"]
-    command += ["-E", "aggregator=;", *(part for name in FIELDS for part in ("-e", name))]
-    lines = subprocess.run(command, check=True, capture_output=True, text=True).stdout.split("\n")
-    return [dict(zip(FIELDS, line.split("\t"))) for line in lines[:-1]]
+def tshark(file: Path, *arguments: str) -> str:
+    command = ["tshark", "-n", "-r", str(file), *arguments]
+    return subprocess.run(command, check=True, capture_output=True, text=True).stdout
 
 
-@unittest.skipUnless(shutil.which("tshark"), "needs tshark, which is not installed")
+def decode(file: Path) -> list[dict[str, str]]:
+    """The fields of each frame; several values of one are separated by semicolons."""
+    columns = [part for name in FIELDS for part in ("-e", name)]
+    lines = tshark(file, "-T", "fields", "-E", "separator=/t", "-E", "aggregator=;", *columns)
+    return [dict(zip(FIELDS, line.split("\t"))) for line in lines.split("\n")[:-1]]
+
+
+@unittest.skipUnless(shutil.which("tshark"), "needs tshark, which is not here")
 class SeenByTshark(unittest.TestCase):
-    place: Place
+    described: dict[tuple[str, int], Beacon]  # by BSSID and channel
+    recorded: list[dict[str, Any]]  # one record for each run of elements of a network
+    seen: list[dict[str, str]]  # what tshark makes of each
+    complaints: str
 
     @classmethod
     def setUpClass(cls) -> None:
-        cls.described: dict[tuple[str, int], Beacon] = {}
-        cls.recorded: dict[tuple[str, str], dict[str, Any]] = {}
-        for description in DESCRIPTIONS:
-            for network in read_place(description).networks:
-                for beacon in network.beacons():
-                    cls.described[beacon.bssid, beacon.channel] = beacon
-            for scan in scans_of(description):
-                for network in scan["networks"]:
-                    key = network["bssid"], network["informationElementData"]
-                    cls.recorded.setdefault(key, network)
-        cls.folder = tempfile.TemporaryDirectory()
-        cls.addClassCleanup(cls.folder.cleanup)
-        networks = list(cls.recorded.values())
-        cls.seen = list(zip(networks, decode(networks, Path(cls.folder.name))))
+        cls.described = {
+            (beacon.bssid, beacon.channel): beacon
+            for description in DESCRIPTIONS
+            for network in read_place(description).networks
+            for beacon in network.beacons()
+        }
+        distinct = {
+            (record["bssid"], record["informationElementData"]): record
+            for description in DESCRIPTIONS
+            for scan in scans_of(description)
+            for record in scan["networks"]
+        }
+        cls.recorded = list(distinct.values())
+        with tempfile.TemporaryDirectory() as folder:
+            file = Path(folder) / "beacons.pcap"
+            file.write_bytes(capture(cls.recorded))
+            cls.seen = decode(file)
+            cls.complaints = tshark(file, "-Y", "_ws.malformed or _ws.expert")
 
     def each(self) -> Iterator[tuple[Beacon, dict[str, Any], dict[str, str]]]:
         """Each beacon recorded: its description, its record, and what tshark sees of it."""
-        for record, seen in self.seen:
+        for record, seen in zip(self.recorded, self.seen):
             yield self.described[record["bssid"], record["channelNumber"]], record, seen
 
     def test_no_frame_is_malformed(self) -> None:
-        file = Path(self.folder.name) / "beacons.pcap"
-        command = ["tshark", "-n", "-r", file, "-Y", "_ws.malformed or _ws.expert"]
-        found = subprocess.run(command, check=True, capture_output=True, text=True).stdout
-        self.assertEqual(found, "")
+        self.assertEqual(self.complaints, "")
         self.assertEqual(len(self.seen), len(self.recorded))
 
     def test_every_network_is_heard_somewhere(self) -> None:
-        heard = {(record["bssid"], record["channelNumber"]) for record, _ in self.seen}
+        heard = {(record["bssid"], record["channelNumber"]) for record in self.recorded}
         self.assertEqual(heard, set(self.described))
 
     def test_names(self) -> None:
@@ -193,7 +199,7 @@ class SeenByTshark(unittest.TestCase):
                     self.assertEqual(name, beacon.ssid.encode(beacon.charset))
                 is_text = any(name) and beacon.charset == "utf-8"
                 self.assertEqual(record.get("ssid"), name.decode() if is_text else None)
-        names = {record.get("ssid", "") for record, _ in self.seen}
+        names = {record.get("ssid", "") for record in self.recorded}
         self.assertIn(32, {len(name.encode()) for name in names})
         self.assertTrue(any("," in name and '"' in name for name in names))
 
@@ -227,16 +233,16 @@ class SeenByTshark(unittest.TestCase):
             with self.subTest(field):
                 absent = ("", "0") if field in BITS else ("",)
                 wanted = {key for key, beacon in self.described.items() if expected(beacon)}
-                found = {(record["bssid"], record["channelNumber"])
-                         for record, seen in self.seen if seen[field] not in absent}
+                found = {(beacon.bssid, beacon.channel)
+                         for beacon, _, seen in self.each() if seen[field] not in absent}
                 self.assertEqual(found, wanted)
                 self.assertTrue(found)
 
     def test_announcements_and_loads_come_and_go(self) -> None:
         values = defaultdict(set)
-        for record, seen in self.seen:
+        for beacon, _, seen in self.each():
             for field in (*EVENTS, "wlan.qbss.scount"):
-                values[record["bssid"], field].add(seen[field])
+                values[beacon.bssid, field].add(seen[field])
         for field in EVENTS:
             changing = [v for (_, name), v in values.items() if name == field and len(v) > 1]
             self.assertTrue(changing, field)

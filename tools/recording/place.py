@@ -2,7 +2,7 @@
 
 import tomllib
 from collections.abc import Iterator
-from dataclasses import dataclass, field, fields, replace
+from dataclasses import dataclass, fields, replace
 from datetime import datetime
 from pathlib import Path
 from typing import Any
@@ -76,7 +76,12 @@ class Place:
     path: tuple[Step, ...]
     walls: tuple[Wall, ...]
     noise: dict[int, int]  # dBm by channel; other channels have no reading
-    networks: list[Network] = field(default_factory=list)
+    networks: tuple[Network, ...]
+
+
+def _point(pair: list[float]) -> Point:
+    x, y = pair
+    return x, y
 
 
 def _tuples(value: Any) -> Any:
@@ -141,14 +146,14 @@ def read_place(file: Path) -> Place:
         sweep_seconds=common["sweep_seconds"],
         seed=common["seed"],
         floor_loss=common["floor_loss"],
-        path=tuple(Step(step["at"], tuple(step["position"]), step["floor"])
+        path=tuple(Step(step["at"], _point(step["position"]), step["floor"])
                    for step in table["path"]),
-        walls=tuple(Wall(tuple(wall["from"]), tuple(wall["to"]), wall["loss"])
+        walls=tuple(Wall(_point(wall["from"]), _point(wall["to"]), wall["loss"])
                     for wall in table["wall"]),
         noise={int(channel): level for channel, level in table["noise"].items()},
-        networks=[
+        networks=tuple(
             _network(leaf)
             for access_point in table["access_point"]
             for leaf in _leaves(access_point, {"country": common["country"]})
-        ],
+        ),
     )

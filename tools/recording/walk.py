@@ -39,7 +39,7 @@ class _Radio:
         spread = _FADING_DB * math.sqrt(1 - alike * alike)
         self.fading = alike * self.fading + self._random.gauss(0, spread)
         while self._next_load <= time:
-            self._stations += self._random.choice((-1, 0, 0, 1, 1)) if self._stations < 4 else -2
+            self._stations = round(0.8 * self._stations + self._random.gauss(0, 1.5))
             self._busy = round(0.7 * self._busy + self._random.gauss(0, 6))
             self._next_load += self._random.uniform(15, 45)
 
