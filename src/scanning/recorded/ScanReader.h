@@ -12,6 +12,9 @@ namespace tessara
 
 /// One scan of a file.
 struct RecordedScan {
+    /// The end of the year 9999: no scan is later, and none is as long before 1970.
+    static constexpr double kLatestTime = 253402300799;
+
     double time = 0; ///< seconds since 1970
     ScanResults networks;
     /// False if the input knows no signal strengths: its networks are listed all the same.

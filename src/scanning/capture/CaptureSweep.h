@@ -1,0 +1,39 @@
+#pragma once
+
+#include "scanning/CWNetwork.h"
+#include "scanning/capture/BeaconFrame.h"
+
+#include <QHash>
+
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+namespace tessara
+{
+
+/// Gathers the frames of one sweep into the results of a scan: one network for each BSSID and
+/// band, in the order of their first frames. The last reading of a signal counts. What a network
+/// says in a probe response goes before what it says in beacons, as in the scan list of a
+/// system's Wi-Fi service: a beacon may hide the name.
+class CaptureSweep
+{
+public:
+    void add(const BeaconFrame& beacon, const ReceivedFrame& received);
+
+    /// The networks so far, and an empty sweep in their place.
+    /// @param recordsSignal whether the capture knows signals at all: what then has no reading
+    ///     gets 0, and otherwise -120, the value of a sample without data
+    ScanResults takeResults(bool recordsSignal);
+
+private:
+    struct Entry {
+        CWNetwork network;
+        bool isProbeResponse = false;
+    };
+
+    std::vector<Entry> m_entries;
+    QHash<quint64, std::size_t> m_positions; ///< by BSSID and band
+};
+
+} // namespace tessara

@@ -1,0 +1,167 @@
+#include "scanning/recorded/ScanLine.h"
+
+#include "foundation/Localized.h"
+#include "model/TSDataPoint.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+
+#include <algorithm>
+#include <cmath>
+
+namespace tessara
+{
+
+namespace
+{
+
+const QLatin1String kTime("time");
+const QLatin1String kNetworks("networks");
+
+std::optional<QByteArray> bytesOfHex(const QString& text)
+{
+    const auto isHexDigit = [](QChar c) {
+        return (c >= u'0' && c <= u'9') || (c >= u'a' && c <= u'f') || (c >= u'A' && c <= u'F');
+    };
+    if (text.size() % 2 != 0 || !std::ranges::all_of(text, isHexDigit))
+        return std::nullopt;
+    return QByteArray::fromHex(text.toLatin1());
+}
+
+// One overload for each type that a raw scan dictionary holds: what a JSON value stands for, and
+// the value that stands for it.
+
+bool read(const QJsonValue& json, std::optional<QString>& value)
+{
+    if (!json.isString())
+        return false;
+    value = json.toString();
+    return true;
+}
+
+bool read(const QJsonValue& json, std::optional<std::int64_t>& value)
+{
+    // A number that is not whole, and what is no number, give the default of the one call and not
+    // that of the other.
+    const qint64 whole = json.toInteger(0);
+    if (whole == 0 && json.toDouble(1) != 0)
+        return false;
+    value = whole;
+    return true;
+}
+
+bool read(const QJsonValue& json, std::optional<bool>& value)
+{
+    if (!json.isBool())
+        return false;
+    value = json.toBool();
+    return true;
+}
+
+bool read(const QJsonValue& json, std::optional<QByteArray>& value)
+{
+    if (json.isString())
+        value = bytesOfHex(json.toString());
+    return value.has_value();
+}
+
+QJsonValue jsonOf(const QString& value)
+{
+    return value;
+}
+
+QJsonValue jsonOf(std::int64_t value)
+{
+    return static_cast<qint64>(value);
+}
+
+QJsonValue jsonOf(bool value)
+{
+    return value;
+}
+
+QJsonValue jsonOf(const QByteArray& value)
+{
+    return QString::fromLatin1(value.toHex());
+}
+
+/// Calls `visit` with each key of a raw scan dictionary and the member that holds its value.
+template <typename Dictionary, typename Visitor>
+void forEachKey(Dictionary& network, const Visitor& visit)
+{
+    visit(QLatin1String("bssid"), network.bssid);
+    visit(QLatin1String("channelNumber"), network.channelNumber);
+    visit(QLatin1String("ssid"), network.ssid);
+    visit(QLatin1String("rssiValue"), network.rssiValue);
+    visit(QLatin1String("noiseMeasurement"), network.noiseMeasurement);
+    visit(QLatin1String("informationElementData"), network.informationElementData);
+    visit(QLatin1String("ibss"), network.ibss);
+    visit(QLatin1String("beaconInterval"), network.beaconInterval);
+    visit(QLatin1String("phyMode"), network.phyMode);
+    visit(QLatin1String("securityMode"), network.securityMode);
+}
+
+/// @return the key whose value is of the wrong kind; none if all are right
+std::optional<QLatin1String> readNetwork(const QJsonObject& object, ScanDictionary& network)
+{
+    std::optional<QLatin1String> wrongKey;
+    forEachKey(network, [&](QLatin1String key, auto& member) {
+        const auto found = object.constFind(key);
+        if (found != object.constEnd() && !read(*found, member) && !wrongKey)
+            wrongKey = key;
+    });
+    return wrongKey;
+}
+
+/// Whether the networks of a scan have signals. -120 stands for a sample without data, which no
+/// radio reports: a scan of nothing else comes from a source that knows no signals.
+bool hasSignals(const ScanResults& networks)
+{
+    return networks.empty() || !std::ranges::all_of(networks, [](const ScanDictionary& network) {
+               return network.rssiValue == TSDataPoint::kNoData;
+           });
+}
+
+} // namespace
+
+QByteArray lineOfScan(const RecordedScan& scan)
+{
+    QJsonArray networks;
+    for (const ScanDictionary& network : scan.networks) {
+        QJsonObject object;
+        forEachKey(network, [&](QLatin1String key, const auto& member) {
+            if (member)
+                object.insert(key, jsonOf(*member));
+        });
+        networks.append(object);
+    }
+    const QJsonObject line{{kTime, scan.time}, {kNetworks, networks}};
+    return QJsonDocument(line).toJson(QJsonDocument::Compact) + '\n';
+}
+
+std::variant<RecordedScan, QString> scanOfObject(const QJsonObject& object)
+{
+    const QJsonValue time = object.value(kTime);
+    if (!time.isDouble() || !(std::abs(time.toDouble()) <= RecordedScan::kLatestTime))
+        return localized("\"time\" is not a number of seconds since 1970");
+    const QJsonValue networks = object.value(kNetworks);
+    if (!networks.isArray())
+        return localized("\"networks\" is not an array");
+
+    RecordedScan scan;
+    scan.time = time.toDouble();
+    const QJsonArray array = networks.toArray();
+    scan.networks.resize(static_cast<std::size_t>(array.size()));
+    for (qsizetype i = 0; i < array.size(); ++i) {
+        const QJsonValue network = array.at(i);
+        if (!network.isObject())
+            return localized("network %1 is not an object").arg(i + 1);
+        if (const auto key =
+                readNetwork(network.toObject(), scan.networks[static_cast<std::size_t>(i)]))
+            return localized("network %1: \"%2\" has a value of the wrong kind").arg(i + 1).arg(*key);
+    }
+    scan.recordsSignal = hasSignals(scan.networks);
+    return scan;
+}
+
+} // namespace tessara
