@@ -4,7 +4,7 @@ add_library(tessara_options INTERFACE)
 target_include_directories(tessara_options INTERFACE ${PROJECT_SOURCE_DIR}/src)
 target_compile_options(
     tessara_options
-    INTERFACE -Wall -Wextra -Wpedantic -Wshadow=local -Wnon-virtual-dtor -Woverloaded-virtual -Werror
+    INTERFACE -Wall -Wextra -Wpedantic $<$<CXX_COMPILER_ID:GNU>:-Wshadow=local> -Wnon-virtual-dtor -Woverloaded-virtual -Werror
 )
 # gcc 12 sees uninitialized members in every std::optional that it inlines.
 target_compile_options(

@@ -35,7 +35,7 @@ constexpr std::uint16_t kCapabilityPrivacy = 0x0010;
 constexpr std::size_t kFCSSize = 4;
 
 constexpr std::uint8_t kExtendedElement = 255;
-constexpr std::uint8_t kHEOperation = 36;                 // its extension identifier
+constexpr std::uint8_t kHEOperation = 36;                  // its extension identifier
 constexpr std::uint8_t k6GHzOperationInformation = 1 << 1; // bit 17 of HE Operation Parameters
 
 /// Whether the last four bytes are the frame check sequence (9.2.4.8) of those before.
@@ -47,16 +47,18 @@ bool endsWithItsFCS(Bytes frame)
     return ByteReader(frame).u32(length) == crc32_z(0, frame.data(), length);
 }
 
-/// The frame as far as it was captured, without its frame check sequence. Not every header says
-/// whether there is one.
-Bytes withoutFCS(const ReceivedFrame& received, std::size_t missingBytes)
+/// The frame as far as it was captured, without its frame check sequence; none if that shows that
+/// the frame was received with errors. Not every header says whether there is one.
+std::optional<Bytes> withoutFCS(const ReceivedFrame& received, std::size_t missingBytes)
 {
     const Bytes frame = received.frame;
-    std::size_t present = 0;
-    if (received.endsWithFCS)
-        present = kFCSSize - std::min(missingBytes, kFCSSize);
-    else if (missingBytes == 0 && endsWithItsFCS(frame))
-        present = kFCSSize;
+    if (missingBytes == 0 && endsWithItsFCS(frame))
+        return frame.first(frame.size() - kFCSSize);
+    if (!received.endsWithFCS)
+        return frame;
+    if (missingBytes == 0)
+        return std::nullopt;
+    const std::size_t present = kFCSSize - std::min(missingBytes, kFCSSize);
     return frame.first(frame.size() - std::min(present, frame.size()));
 }
 
@@ -87,8 +89,10 @@ std::optional<BeaconFrame> decodeBeacon(const ReceivedFrame& received, std::size
 {
     if (received.isCorrupt)
         return std::nullopt;
-    const Bytes bytes = withoutFCS(received, missingBytes);
-    const ByteReader frame(bytes);
+    const auto bytes = withoutFCS(received, missingBytes);
+    if (!bytes)
+        return std::nullopt;
+    const ByteReader frame(*bytes);
     const std::uint16_t control = frame.u16(0).value_or(0);
     const std::uint16_t kind = control & kVersionTypeSubtype;
     if ((kind != kBeacon && kind != kProbeResponse) || control & (kMoreFragments | kProtectedFrame))
@@ -101,11 +105,11 @@ std::optional<BeaconFrame> decodeBeacon(const ReceivedFrame& received, std::size
     const std::uint16_t capability = frame.u16(body + 10).value_or(0);
     BeaconFrame result{
         .isProbeResponse = kind == kProbeResponse,
-        .bssid = bytes.subspan(kAddress3, kAddressSize),
+        .bssid = bytes->subspan(kAddress3, kAddressSize),
         .beaconInterval = frame.u16(body + 8).value_or(0),
         .ibss = (capability & kCapabilityIBSS) != 0,
         .privacy = (capability & kCapabilityPrivacy) != 0,
-        .elements = bytes.subspan(body + kFixedFieldsSize),
+        .elements = bytes->subspan(body + kFixedFieldsSize),
     };
     const ElementRun elements(result.elements);
     if (isIn6GHzBand(received, elements))

@@ -24,7 +24,7 @@ CaptureReader::CaptureReader(std::unique_ptr<QIODevice> device, const QString& n
 {
     if (!open())
         return;
-    m_recordsSignal = anySightingHasSignal();
+    m_recordsSignal = findWhetherItRecordsSignal();
     if (!m_device->reset())
         fail(localized("the file cannot be read twice"));
     else
@@ -56,14 +56,16 @@ std::optional<CaptureReader::Sighting> CaptureReader::sighting(const CapturedPac
     return Sighting{*received, *beacon};
 }
 
-bool CaptureReader::anySightingHasSignal()
+bool CaptureReader::findWhetherItRecordsSignal()
 {
+    bool anySighting = false;
     while (const auto packet = m_capture->next()) {
         const auto seen = sighting(*packet);
         if (seen && seen->received.signal)
             return true;
+        anySighting = anySighting || seen;
     }
-    return false;
+    return !anySighting; // what holds no networks lacks no signals
 }
 
 std::optional<RecordedScan> CaptureReader::next()
@@ -115,8 +117,8 @@ void CaptureReader::advanceTo(double captureTime)
 void CaptureReader::endSweep(double number)
 {
     const double end = *m_startTime + (number + 1) * m_sweepSeconds;
-    m_due.push_back({std::min(end, RecordedScan::kLatestTime), m_sweep.takeResults(m_recordsSignal),
-                     m_recordsSignal});
+    m_due.push_back({std::clamp(end, -RecordedScan::kLatestTime, RecordedScan::kLatestTime),
+                     m_sweep.takeResults(m_recordsSignal), m_recordsSignal});
 }
 
 void CaptureReader::fail(const QString& reason)

@@ -33,7 +33,7 @@ public:
     QString error() const override { return m_error; }
 
 private:
-    /// One of the frames that count, and the time at which it was captured.
+    /// One of the frames that count.
     struct Sighting {
         ReceivedFrame received;
         BeaconFrame beacon;
@@ -41,7 +41,8 @@ private:
 
     bool open();
     std::optional<Sighting> sighting(const CapturedPacket& packet) const;
-    bool anySightingHasSignal();
+    /// Reads the capture to its first signal, or to its end.
+    bool findWhetherItRecordsSignal();
     void advanceTo(double captureTime);
     void endSweep(double number);
     void fail(const QString& reason);

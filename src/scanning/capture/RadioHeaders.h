@@ -9,12 +9,12 @@ namespace tessara
 
 /// A frame as a capture holds it, and what the header before it says of its reception.
 struct ReceivedFrame {
-    Bytes frame;                  ///< from the frame control field on
-    std::optional<int> signal;    ///< dBm
-    std::optional<int> noise;     ///< dBm
-    std::optional<int> frequency; ///< of the channel's centre, MHz
-    bool endsWithFCS = false;     ///< so says the header; it may not know
-    bool isCorrupt = false;       ///< the frame check sequence was found wrong
+    Bytes frame = {};                  ///< from the frame control field on
+    std::optional<int> signal = {};    ///< dBm
+    std::optional<int> noise = {};     ///< dBm
+    std::optional<int> frequency = {}; ///< of the channel's centre, MHz
+    bool endsWithFCS = false;          ///< so says the header; not each knows
+    bool isCorrupt = false;            ///< the frame check sequence was found wrong
 };
 
 /// Takes the header off a packet; none if there is no frame after it.

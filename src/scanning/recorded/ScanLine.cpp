@@ -158,7 +158,9 @@ std::variant<RecordedScan, QString> scanOfObject(const QJsonObject& object)
             return localized("network %1 is not an object").arg(i + 1);
         if (const auto key =
                 readNetwork(network.toObject(), scan.networks[static_cast<std::size_t>(i)]))
-            return localized("network %1: \"%2\" has a value of the wrong kind").arg(i + 1).arg(*key);
+            return localized("network %1: \"%2\" has a value of the wrong kind")
+                .arg(i + 1)
+                .arg(*key);
     }
     scan.recordsSignal = hasSignals(scan.networks);
     return scan;

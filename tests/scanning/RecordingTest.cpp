@@ -1,0 +1,348 @@
+#include "scanning/CaptureBuilder.h"
+#include "scanning/recorded/RecordingReader.h"
+#include "scanning/recorded/RecordingWriter.h"
+#include "scanning/recorded/ScanInput.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <gmock/gmock.h>
+
+#include <csignal>
+#include <limits>
+#include <sys/resource.h>
+
+using namespace tessara;
+using testing::EndsWith;
+using testing::HasSubstr;
+
+namespace
+{
+
+constexpr std::int64_t kLargest = std::numeric_limits<std::int64_t>::max();
+
+ScanDictionary completeNetwork()
+{
+    ScanDictionary network;
+    network.bssid = QStringLiteral("0:1a:2:3:4b:5");
+    network.channelNumber = 36;
+    network.ssid = QStringLiteral("Café \"quoted\" \\ \n \U0001f4f6");
+    network.rssiValue = -61;
+    network.noiseMeasurement = -93;
+    network.informationElementData = QByteArray::fromHex("0003ab00ff");
+    network.ibss = false;
+    network.beaconInterval = 100;
+    network.phyMode = 0;
+    network.securityMode = kLargest;
+    return network;
+}
+
+QByteArray contentOf(const QString& path)
+{
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << qPrintable(path);
+    return file.readAll();
+}
+
+void writeFile(const QString& path, const QByteArray& content)
+{
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
+}
+
+struct Outcome {
+    std::vector<RecordedScan> scans;
+    std::string error;
+};
+
+Outcome readRecording(const QByteArray& content)
+{
+    RecordingReader reader(inMemory(content), QStringLiteral("test.jsonl"));
+    Outcome outcome{allScans(reader), {}};
+    outcome.error = reader.error().toStdString();
+    return outcome;
+}
+
+/// While it lives, no file of this process can grow beyond a size, as on a full disk.
+class SmallDisk
+{
+public:
+    explicit SmallDisk(rlim_t bytes)
+    {
+        m_handler = std::signal(SIGXFSZ, SIG_IGN);
+        getrlimit(RLIMIT_FSIZE, &m_before);
+        const rlimit limit{bytes, m_before.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~SmallDisk()
+    {
+        setrlimit(RLIMIT_FSIZE, &m_before);
+        std::signal(SIGXFSZ, m_handler);
+    }
+
+private:
+    rlimit m_before{};
+    void (*m_handler)(int) = nullptr;
+};
+
+} // namespace
+
+class RecordingFiles : public testing::Test
+{
+protected:
+    QString path(const char* name) const { return m_folder.filePath(QLatin1String(name)); }
+    QStringList names() const { return QDir(m_folder.path()).entryList(QDir::Files); }
+
+private:
+    QTemporaryDir m_folder;
+};
+
+TEST_F(RecordingFiles, ComeBackAsTheyWereWritten)
+{
+    const std::vector<RecordedScan> scans = {
+        {1700000000.123, {completeNetwork(), ScanDictionary()}, true},
+        {1700000003.001, {}, true},
+        {-0.5, {completeNetwork()}, true},
+    };
+    for (const char* name : {"a.jsonl", "a.jsonl.gz"}) {
+        SCOPED_TRACE(name);
+        RecordingWriter writer(path(name));
+        for (const RecordedScan& scan : scans)
+            EXPECT_TRUE(writer.write(scan));
+        ASSERT_TRUE(writer.finish()) << qPrintable(writer.error());
+
+        const ScanInput input = openScanInput(path(name), 3.0);
+        ASSERT_TRUE(input.reader) << qPrintable(input.error);
+        const auto back = allScans(*input.reader);
+        EXPECT_EQ(input.reader->error(), QString());
+        ASSERT_EQ(back.size(), scans.size());
+        for (std::size_t i = 0; i < scans.size(); ++i) {
+            EXPECT_EQ(back[i].time, scans[i].time);
+            EXPECT_EQ(back[i].networks, scans[i].networks);
+        }
+    }
+    const QByteArray plain = contentOf(path("a.jsonl"));
+    EXPECT_EQ(plain.count('\n'), 3);
+    for (const char* text : {"\"securityMode\":9223372036854775807", "\"time\":1700000000.123",
+                             "\"informationElementData\":\"0003ab00ff\"", "{}"})
+        EXPECT_TRUE(plain.contains(text)) << text;
+    EXPECT_TRUE(contentOf(path("a.jsonl.gz")).startsWith("\x1f\x8b"));
+}
+
+TEST_F(RecordingFiles, AreReplacedWholeOrNotAtAll)
+{
+    writeFile(path("kept.jsonl"), "before");
+    {
+        RecordingWriter writer(path("kept.jsonl"));
+        EXPECT_TRUE(writer.write({0, {completeNetwork()}, true}));
+    } // never finished
+    EXPECT_EQ(contentOf(path("kept.jsonl")), "before");
+    EXPECT_EQ(names(), QStringList{QStringLiteral("kept.jsonl")});
+
+    RecordingWriter writer(path("kept.jsonl"));
+    EXPECT_TRUE(writer.finish());
+    EXPECT_EQ(contentOf(path("kept.jsonl")), "");
+}
+
+TEST_F(RecordingFiles, SayWhyTheyCannotBeWritten)
+{
+    RecordingWriter nowhere(path("no/such/folder.jsonl"));
+    EXPECT_FALSE(nowhere.write({}));
+    EXPECT_FALSE(nowhere.finish());
+    EXPECT_THAT(nowhere.error().toStdString(),
+                HasSubstr("no/such/folder.jsonl: could not be written: "));
+
+    for (const char* name : {"full.jsonl", "full.jsonl.gz"}) {
+        SCOPED_TRACE(name);
+        writeFile(path(name), "before");
+        const RecordedScan scan{0, ScanResults(2000, completeNetwork()), true};
+        RecordingWriter writer(path(name));
+        {
+            const SmallDisk disk(1000);
+            writer.write(scan);
+            EXPECT_FALSE(writer.finish());
+        }
+        EXPECT_THAT(writer.error().toStdString(), EndsWith("could not be written: File too large"));
+        EXPECT_EQ(contentOf(path(name)), "before");
+    }
+    EXPECT_EQ(names().size(), 2);
+}
+
+TEST_F(RecordingFiles, ThatAreCutShortGiveWhatTheyHave)
+{
+    RecordingWriter writer(path("whole.jsonl.gz"));
+    for (int i = 0; i < 3000; ++i) { // different enough not to shrink to nothing
+        ScanDictionary network = completeNetwork();
+        network.informationElementData = QByteArray::number(i * 2654435761u).toHex();
+        writer.write({double(i), {network}, true});
+    }
+    ASSERT_TRUE(writer.finish());
+    const QByteArray whole = contentOf(path("whole.jsonl.gz"));
+    QByteArray damaged = whole;
+    damaged[whole.size() - 8] = char(~damaged[whole.size() - 8]); // of the checksum
+
+    const struct {
+        QByteArray content;
+        const char* error;
+    } cases[] = {
+        {whole.chopped(whole.size() / 3), "broken.jsonl.gz: the compressed data ends too early"},
+        {damaged, "broken.jsonl.gz: the compressed data is damaged"},
+    };
+    for (const auto& c : cases) {
+        writeFile(path("broken.jsonl.gz"), c.content);
+        const ScanInput input = openScanInput(path("broken.jsonl.gz"), 3.0);
+        ASSERT_TRUE(input.reader);
+        const auto scans = allScans(*input.reader);
+        EXPECT_GT(scans.size(), 0u);
+        EXPECT_LE(scans.size(), 3000u);
+        EXPECT_THAT(input.reader->error().toStdString(), EndsWith(c.error));
+    }
+}
+
+TEST(RecordingReader, TakesRecordingsOfAnyLayout)
+{
+    struct Case {
+        const char* name;
+        QByteArray content;
+        std::size_t scans;
+    };
+    const QByteArray line = R"({"time":1,"networks":[]})";
+    const Case cases[] = {
+        {"none", "", 0},
+        {"one, without a line feed", line, 1},
+        {"two, in the manner of Windows", line + "\r\n" + line + "\r\n", 2},
+        {"blank lines at the end", line + "\n\n \t\r\n\n", 1},
+        {"nothing but blank lines", "\n\n", 0},
+        {"spaces, other order, unknown keys",
+         R"( { "networks" : [ {"x":[1,{}], "bssid":"a"} ],)"
+         R"( "y":null, "time" : 1e3 } )",
+         1},
+        {"a line longer than any buffer",
+         R"({"time":1,"note":")" + QByteArray(3'000'000, 'x') + "\",\"networks\":[]}\n" + line, 2},
+    };
+    for (const Case& c : cases) {
+        const Outcome outcome = readRecording(c.content);
+        EXPECT_EQ(outcome.scans.size(), c.scans) << c.name;
+        EXPECT_EQ(outcome.error, "") << c.name;
+    }
+}
+
+TEST(RecordingReader, NamesTheLineThatIsNoScan)
+{
+    struct Case {
+        const char* line;
+        const char* reason;
+    };
+    const Case cases[] = {
+        {"scan", "not JSON"},
+        {"{\"time\":1,\"networks\":[]} x", "not JSON"},
+        {"{\"time\":NaN,\"networks\":[]}", "not JSON"},
+        {"{\"time\":1,\"networks\":[{\"ssid\":\"\xff\xfe\"}]}", "not JSON"},
+        {"", "the line is empty"},
+        {"[1]", "not an object"},
+        {"{}", "\"time\" is not"},
+        {R"({"time":"1","networks":[]})", "\"time\" is not"},
+        {R"({"time":1e300,"networks":[]})", "\"time\" is not"},
+        {R"({"time":1})", "\"networks\" is not"},
+        {R"({"time":1,"networks":{}})", "\"networks\" is not"},
+        {R"({"time":1,"networks":[{},7]})", "network 2 is not an object"},
+        {R"({"time":1,"networks":[{"bssid":7}]})", "network 1: \"bssid\" has"},
+        {R"({"time":1,"networks":[{"ssid":null}]})", "\"ssid\" has"},
+        {R"({"time":1,"networks":[{"channelNumber":"6"}]})", "\"channelNumber\" has"},
+        {R"({"time":1,"networks":[{"rssiValue":-60.5}]})", "\"rssiValue\" has"},
+        {R"({"time":1,"networks":[{"noiseMeasurement":true}]})", "\"noiseMeasurement\" has"},
+        {R"({"time":1,"networks":[{"securityMode":9223372036854775808}]})", "\"securityMode\" has"},
+        {R"({"time":1,"networks":[{"ibss":1}]})", "\"ibss\" has"},
+        {R"({"time":1,"networks":[{"informationElementData":"abc"}]})", "ElementData\" has"},
+        {R"({"time":1,"networks":[{"informationElementData":"0g"}]})", "ElementData\" has"},
+        {R"({"time":1,"networks":[{"informationElementData":[0]}]})", "ElementData\" has"},
+    };
+    const QByteArray good = "{\"time\":1,\"networks\":[]}\n";
+    for (const Case& c : cases) {
+        const Outcome outcome = readRecording(good + c.line + '\n' + good);
+        EXPECT_EQ(outcome.scans.size(), 1u) << c.line;
+        EXPECT_THAT(outcome.error, HasSubstr("test.jsonl, line 2: ")) << c.line;
+        EXPECT_THAT(outcome.error, HasSubstr(c.reason)) << c.line;
+    }
+    EXPECT_THAT(readRecording(QByteArray(5000, '[')).error, HasSubstr("line 1: not JSON"));
+}
+
+TEST(RecordingReader, KeepsNumbersExactly)
+{
+    const Outcome outcome = readRecording(
+        R"({"time":1700000000.987,"networks":[{"rssiValue":-0,"noiseMeasurement":-9.5e1,)"
+        R"("phyMode":-9223372036854775808,"securityMode":9223372036854775807,)"
+        R"("beaconInterval":9007199254740993}]})");
+    ASSERT_EQ(outcome.scans.size(), 1u) << outcome.error;
+    EXPECT_EQ(outcome.scans[0].time, 1700000000.987);
+    const ScanDictionary& network = outcome.scans[0].networks[0];
+    EXPECT_EQ(network.rssiValue, 0);
+    EXPECT_EQ(network.noiseMeasurement, -95);
+    EXPECT_EQ(network.phyMode, std::numeric_limits<std::int64_t>::min());
+    EXPECT_EQ(network.securityMode, kLargest);
+    EXPECT_EQ(network.beaconInterval, 9007199254740993);
+}
+
+TEST(RecordingReader, KnowsAScanWithoutSignals)
+{
+    const QByteArray without = R"({"rssiValue":-120})";
+    const QByteArray with = R"({"rssiValue":-119})";
+    const QByteArray unread = R"({})";
+    struct Case {
+        QByteArray networks;
+        bool recordsSignal;
+    };
+    const Case cases[] = {
+        {without + ',' + without, false},
+        {without + ',' + with, true},
+        {without + ',' + unread, true},
+        {unread, true},
+        {"", true},
+    };
+    for (const Case& c : cases) {
+        const Outcome outcome = readRecording("{\"time\":1,\"networks\":[" + c.networks + "]}");
+        ASSERT_EQ(outcome.scans.size(), 1u);
+        EXPECT_EQ(outcome.scans[0].recordsSignal, c.recordsSignal) << c.networks.constData();
+    }
+}
+
+TEST_F(RecordingFiles, AreToldFromCapturesByTheirEnding)
+{
+    const QByteArray recording = R"({"time":1,"networks":[]})";
+    const QByteArray frames = capture(105, {{1, build({})}});
+    const struct {
+        const char* name;
+        const QByteArray& content;
+        std::size_t networks;
+    } readable[] = {
+        {"a.jsonl", recording, 0}, {"a.JSONL.gz", recording, 0}, {"a.pcap", frames, 1},
+        {"a.pcapng", frames, 1},   {"a.cap.gz", frames, 1},
+    };
+    for (const auto& c : readable) {
+        SCOPED_TRACE(c.name);
+        writeFile(path(c.name), c.content); // not compressed: the content tells, not the name
+        const ScanInput input = openScanInput(path(c.name), 3.0);
+        ASSERT_TRUE(input.reader) << qPrintable(input.error);
+        const auto scans = allScans(*input.reader);
+        ASSERT_EQ(scans.size(), 1u) << qPrintable(input.reader->error());
+        EXPECT_EQ(scans[0].networks.size(), c.networks);
+    }
+
+    const struct {
+        QString path;
+        double sweepSeconds;
+        const char* error;
+    } refused[] = {
+        {path("a.csv"), 3, "a.csv: not a kind of file that is read here (.jsonl, .pcap,"},
+        {path("missing.jsonl"), 3, "missing.jsonl: No such file"},
+        {path("missing.pcap.gz"), 3, "missing.pcap.gz: No such file"},
+        {path("a.pcap"), 0, "a sweep takes more than 0 seconds"},
+        {path("a.pcap"), std::numeric_limits<double>::quiet_NaN(), "a sweep takes more"},
+    };
+    for (const auto& c : refused) {
+        const ScanInput input = openScanInput(c.path, c.sweepSeconds);
+        EXPECT_FALSE(input.reader);
+        EXPECT_THAT(input.error.toStdString(), HasSubstr(c.error));
+    }
+}
