@@ -7,6 +7,27 @@
 namespace tessara
 {
 
+namespace
+{
+
+const nlattr* firstOf(Bytes attributes)
+{
+    return reinterpret_cast<const nlattr*>(attributes.data());
+}
+
+int lengthOf(Bytes attributes)
+{
+    return static_cast<int>(attributes.size());
+}
+
+Bytes contentOf(const nlattr* attribute)
+{
+    return Bytes(static_cast<const std::uint8_t*>(nla_data(attribute)),
+                 static_cast<std::size_t>(nla_len(attribute)));
+}
+
+} // namespace
+
 QByteArray NetlinkAttributes::bytes(int type) const
 {
     const Bytes content = find(type).value_or(Bytes());
@@ -14,14 +35,21 @@ QByteArray NetlinkAttributes::bytes(int type) const
                       static_cast<qsizetype>(content.size()));
 }
 
+std::vector<NetlinkAttributes> NetlinkAttributes::list(int type) const
+{
+    std::vector<NetlinkAttributes> entries;
+    const Bytes content = find(type).value_or(Bytes());
+    const nlattr* entry = nullptr;
+    int remaining = 0;
+    nla_for_each_attr(entry, firstOf(content), lengthOf(content), remaining)
+        entries.emplace_back(contentOf(entry));
+    return entries;
+}
+
 std::optional<Bytes> NetlinkAttributes::find(int type) const
 {
-    const auto* attribute = nla_find(reinterpret_cast<const nlattr*>(m_attributes.data()),
-                                     static_cast<int>(m_attributes.size()), type);
-    if (!attribute)
-        return std::nullopt;
-    return Bytes(static_cast<const std::uint8_t*>(nla_data(attribute)),
-                 static_cast<std::size_t>(nla_len(attribute)));
+    const nlattr* attribute = nla_find(firstOf(m_attributes), lengthOf(m_attributes), type);
+    return attribute ? std::optional(contentOf(attribute)) : std::nullopt;
 }
 
 template <typename Number>

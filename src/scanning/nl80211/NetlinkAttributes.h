@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <vector>
 
 namespace tessara
 {
@@ -35,6 +36,8 @@ public:
     {
         return NetlinkAttributes(find(type).value_or(Bytes()));
     }
+    /// The entries of a list: an attribute that holds attributes, which hold attributes.
+    std::vector<NetlinkAttributes> list(int type) const;
 
 private:
     std::optional<Bytes> find(int type) const;

@@ -57,10 +57,11 @@ Nl80211EventWatcher::Nl80211EventWatcher(NotificationCenter& notifications)
     , m_rfkill(open(kRfkillDevice, O_RDONLY | O_CLOEXEC | O_NONBLOCK))
     , m_power(powerOfAllInterfaces())
 {
-    if (m_wifi.subscribe(NL80211_MULTICAST_GROUP_MLME) == 0)
-        watch(m_wifi.fileDescriptor(), &Nl80211EventWatcher::readWiFiEvents);
-    else
-        qCWarning(lcScanning, "No nl80211 in the kernel: changes of Wi-Fi go unnoticed.");
+    if (m_wifi.subscribe(NL80211_MULTICAST_GROUP_MLME) != 0) {
+        qCWarning(lcScanning, "No nl80211 in the kernel: there is no Wi-Fi to watch.");
+        return;
+    }
+    watch(m_wifi.fileDescriptor(), &Nl80211EventWatcher::readWiFiEvents);
     if (m_links.isOpen())
         watch(m_links.get(), &Nl80211EventWatcher::readLinkEvents);
     else

@@ -197,9 +197,9 @@ CWScan Nl80211Interface::scanByNetworkManager(const InterfaceInfo& info,
     const NetworkManagerScan scan = m_networkManager.scan(m_name, ssid, m_pause);
     switch (scan.end) {
     case NetworkManagerScan::End::kFinished:
-        return results(info, scan.lastScan - kLongestSweep, std::nullopt);
+        return results(info, scan.lastScan - kLongestScan, std::nullopt);
     case NetworkManagerScan::End::kTimedOut:
-        return results(info, scan.lastScan - kLongestSweep, timeout());
+        return results(info, scan.lastScan - kLongestScan, timeout());
     case NetworkManagerScan::End::kShutDown:
         return {{}, failure(QStringLiteral("The program ends"))};
     case NetworkManagerScan::End::kUnavailable:

@@ -1,6 +1,7 @@
 #include "scanning/nl80211/ScanRun.h"
 
 #include "scanning/nl80211/Nl80211Socket.h"
+#include "scanning/nl80211/RadioChannels.h"
 
 #include <netlink/attr.h>
 
@@ -18,13 +19,14 @@ namespace
 using SteadyClock = std::chrono::steady_clock;
 using namespace std::chrono_literals;
 
-constexpr auto kLongestWait = 15s;
+constexpr std::chrono::nanoseconds kLongestWait(kLongestScan);
 // A radio can also be busy without a scan whose end would be told; so it is asked again.
 constexpr auto kBusyWait = 2s;
 constexpr int kStepMilliseconds = 100;
 
 int trigger(const InterfaceInfo& interface, const std::optional<QByteArray>& ssid)
 {
+    const std::vector<std::uint32_t> channels = readScannableFrequencies(interface.radio);
     const auto attributes = [&](nl_msg* message) {
         nla_put_u32(message, NL80211_ATTR_IFINDEX, interface.index);
         // An entry makes the scan an active one; the empty name is that of all networks.
@@ -32,6 +34,13 @@ int trigger(const InterfaceInfo& interface, const std::optional<QByteArray>& ssi
         nlattr* names = nla_nest_start(message, NL80211_ATTR_SCAN_SSIDS);
         nla_put(message, 1, static_cast<int>(name.size()), name.constData());
         nla_nest_end(message, names);
+        // Without a list of channels the radio scans all that it has.
+        if (channels.empty())
+            return;
+        nlattr* frequencies = nla_nest_start(message, NL80211_ATTR_SCAN_FREQUENCIES);
+        for (int entry = 1; const std::uint32_t frequency : channels)
+            nla_put_u32(message, entry++, frequency);
+        nla_nest_end(message, frequencies);
     };
     Nl80211Socket socket;
     return socket.request(NL80211_CMD_TRIGGER_SCAN, attributes, [](const auto&) {}).error;
@@ -87,7 +96,7 @@ ScanRun runScan(const InterfaceInfo& interface, const std::optional<QByteArray>&
         const bool canRepeat =
             SteadyClock::now() < deadline && (end == ScanEnd::kTimedOut || (isOver && ssid));
         if (!canRepeat)
-            return {end, ENODEV, bootTimeNow() - kLongestSweep};
+            return {end, ENODEV, bootTimeNow() - kLongestScan};
     }
 }
 

@@ -11,9 +11,9 @@
 namespace tessara
 {
 
-/// The longest that a sweep usually takes. What was heard within this time before the end of a
-/// scan counts as heard by it, where its beginning is not known.
-inline constexpr BootTime kLongestSweep = 10'000'000'000;
+/// The longest that a scan takes. What was heard within this time before the end of a scan counts
+/// as heard by it, where its beginning is not known.
+inline constexpr BootTime kLongestScan = 15'000'000'000;
 
 /// One active scan, over.
 struct ScanRun {
