@@ -75,7 +75,7 @@ ScanEnd awaitEnd(Nl80211Socket& events, ScanProgress progress, const InterfaceIn
 
 ScanRun runScan(const InterfaceInfo& interface, const std::optional<QByteArray>& ssid, Pause& pause)
 {
-    const auto deadline = SteadyClock::now() + kLongestWait;
+    const auto busyUntil = SteadyClock::now() + kLongestWait;
     for (;;) {
         // Subscribed before the scan is triggered, so that not even a short one can end unseen.
         Nl80211Socket events;
@@ -83,20 +83,17 @@ ScanRun runScan(const InterfaceInfo& interface, const std::optional<QByteArray>&
             return {ScanEnd::kRefused, error};
         const BootTime begun = bootTimeNow();
         const int error = trigger(interface, ssid);
-        if (error != 0 && error != EBUSY)
-            return {ScanEnd::kRefused, error};
         if (error == 0) {
-            const ScanEnd end =
-                awaitEnd(events, ScanProgress::ofOurs(interface), interface, deadline, pause);
+            const ScanEnd end = awaitEnd(events, ScanProgress::ofOurs(interface), interface,
+                                         SteadyClock::now() + kLongestWait, pause);
             return {end, ENODEV, begun};
         }
+        if (error != EBUSY || SteadyClock::now() >= busyUntil)
+            return {ScanEnd::kRefused, error};
         const ScanEnd end = awaitEnd(events, ScanProgress::ofOthers(interface), interface,
-                                     std::min(deadline, SteadyClock::now() + kBusyWait), pause);
-        const bool isOver = end == ScanEnd::kFinished || end == ScanEnd::kAborted;
-        const bool canRepeat =
-            SteadyClock::now() < deadline && (end == ScanEnd::kTimedOut || (isOver && ssid));
-        if (!canRepeat)
-            return {end, ENODEV, bootTimeNow() - kLongestScan};
+                                     std::min(busyUntil, SteadyClock::now() + kBusyWait), pause);
+        if (end == ScanEnd::kRefused || end == ScanEnd::kShutDown)
+            return {end, ENODEV};
     }
 }
 

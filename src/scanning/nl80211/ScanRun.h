@@ -11,8 +11,8 @@
 namespace tessara
 {
 
-/// The longest that a scan takes. What was heard within this time before the end of a scan counts
-/// as heard by it, where its beginning is not known.
+/// The longest that a scan takes. Where its beginning is not known, what was heard within this time
+/// before its end counts as heard by it.
 inline constexpr BootTime kLongestScan = 15'000'000'000;
 
 /// One active scan, over.
@@ -22,9 +22,9 @@ struct ScanRun {
     BootTime begun = 0; ///< what was seen since is its result
 };
 
-/// Triggers an active scan and blocks until it is over, for 15 s at the most. If the radio is busy
-/// with someone else's scan, that one is waited for and serves as well, unless a network is asked
-/// for by name: then the scan follows it.
+/// Triggers an active scan and blocks until it is over, for kLongestScan at the most. If the radio
+/// is busy with someone else's scan, the end of that one is waited for first, for as long; it may
+/// have been a scan of a single channel and so does not serve in place of ours.
 /// @param ssid  the only name to probe for; none probes for all
 /// @param pause tells when the program shuts down, which ends the wait
 ScanRun runScan(const InterfaceInfo& interface, const std::optional<QByteArray>& ssid,
