@@ -4,8 +4,7 @@
 
 #include <span>
 
-namespace tessara
-{
+namespace tessara {
 
 /// How a command ended, as the shell sees it.
 enum ExitStatus : int {

@@ -2,8 +2,7 @@
 
 #include <QTextStream>
 
-namespace tessara
-{
+namespace tessara {
 
 std::span<const Command> commands()
 {

@@ -2,11 +2,9 @@
 #include "cli/InputOptions.h"
 #include "scanning/recorded/RecordingWriter.h"
 
-namespace tessara
-{
+namespace tessara {
 
-namespace
-{
+namespace {
 
 bool isRecording(const QString& path)
 {

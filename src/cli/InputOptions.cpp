@@ -2,8 +2,7 @@
 
 #include <cmath>
 
-namespace tessara
-{
+namespace tessara {
 
 void addInputOptions(QCommandLineParser& parser)
 {

@@ -6,8 +6,7 @@
 
 #include <optional>
 
-namespace tessara
-{
+namespace tessara {
 
 /// --sweep SECONDS
 void addInputOptions(QCommandLineParser& parser);

@@ -5,11 +5,9 @@
 
 #include <QTextStream>
 
-namespace tessara
-{
+namespace tessara {
 
-namespace
-{
+namespace {
 
 QString associationText(const CWInterface& interface)
 {

@@ -7,11 +7,9 @@
 
 #include <QTextStream>
 
-namespace tessara
-{
+namespace tessara {
 
-namespace
-{
+namespace {
 
 std::vector<const Column*> shownColumns()
 {

@@ -7,8 +7,7 @@
 
 #include <vector>
 
-namespace tessara
-{
+namespace tessara {
 
 /// How a list of networks is to be printed.
 struct ListOptions {

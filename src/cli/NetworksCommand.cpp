@@ -4,11 +4,9 @@
 #include "foundation/Defaults.h"
 #include "scanning/recorded/Replay.h"
 
-namespace tessara
-{
+namespace tessara {
 
-namespace
-{
+namespace {
 
 void addOptions(QCommandLineParser& parser)
 {

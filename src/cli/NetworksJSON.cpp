@@ -4,11 +4,9 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
-namespace tessara
-{
+namespace tessara {
 
-namespace
-{
+namespace {
 
 QJsonValue number(std::int64_t value)
 {

@@ -5,8 +5,7 @@
 
 #include <QByteArray>
 
-namespace tessara
-{
+namespace tessara {
 
 /// Networks for programs: `{"lastScanTime": seconds, "filterIdentifiers": [], "networks":
 /// [{"columns": {ID: text of the cell}, "record": {name: value}}]}`. An absent value is null.

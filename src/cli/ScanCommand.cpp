@@ -11,11 +11,9 @@
 #include <chrono>
 #include <cmath>
 
-namespace tessara
-{
+namespace tessara {
 
-namespace
-{
+namespace {
 
 void addOptions(QCommandLineParser& parser)
 {

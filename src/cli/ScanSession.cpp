@@ -6,8 +6,7 @@
 
 #include <QTextStream>
 
-namespace tessara
-{
+namespace tessara {
 
 ScanSession::ScanSession(ScanRuntime& runtime, std::shared_ptr<CWInterface> interface,
                          Options options)
@@ -62,7 +61,9 @@ void ScanSession::record()
 
 QString ScanSession::statusLine() const
 {
-    return stateInfo(m_cycle.isScanning(), QString(kApplicationTitle), m_interface.get()).title;
+    return stateInfo(m_cycle.isScanning(), QStringView(kApplicationTitle).toString(),
+                     m_interface.get())
+        .title;
 }
 
 void ScanSession::repaint()

@@ -11,12 +11,10 @@
 #include <memory>
 #include <optional>
 
-namespace tessara
-{
+namespace tessara {
 
 /// Scanning in a terminal: a scan cycle whose view is the screen and, if wanted, a file.
-class ScanSession final : public QObject, private ScanCycleViews
-{
+class ScanSession final : public QObject, private ScanCycleViews {
     Q_OBJECT
 
 public:

@@ -2,8 +2,7 @@
 
 #include "foundation/Defaults.h"
 
-namespace tessara
-{
+namespace tessara {
 
 void addSettingsOptions(QCommandLineParser& parser)
 {

@@ -2,8 +2,7 @@
 
 #include <QCommandLineParser>
 
-namespace tessara
-{
+namespace tessara {
 
 /// --default KEY=VALUE, --no-settings
 void addSettingsOptions(QCommandLineParser& parser);

@@ -2,8 +2,7 @@
 
 #include "cli/Command.h"
 
-namespace tessara
-{
+namespace tessara {
 
 UserPrompt::AlertId StandardErrorPrompt::beginAlert(const TSAlert& alert, Answer)
 {

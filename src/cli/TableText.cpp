@@ -6,11 +6,9 @@
 #include <algorithm>
 #include <numeric>
 
-namespace tessara
-{
+namespace tessara {
 
-namespace
-{
+namespace {
 
 constexpr int kGap = 2;       ///< blanks between two columns
 constexpr int kNarrowest = 4; ///< a column is not cut below this

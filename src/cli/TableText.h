@@ -8,8 +8,7 @@
 
 #include <vector>
 
-namespace tessara
-{
+namespace tessara {
 
 /// Networks as a table for people: a line of titles, then one line a network. Columns are as wide
 /// as what stands in them; where that is more than `width` terminal columns, the widest are cut.

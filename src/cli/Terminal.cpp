@@ -5,11 +5,9 @@
 #include <sys/ioctl.h>
 #include <unistd.h>
 
-namespace tessara
-{
+namespace tessara {
 
-namespace
-{
+namespace {
 
 int widthOf(char32_t character)
 {

@@ -1,9 +1,9 @@
 #pragma once
 
+#include <QList>
 #include <QString>
 
-namespace tessara
-{
+namespace tessara {
 
 /// Size of a terminal in characters.
 struct TerminalSize {

@@ -9,8 +9,7 @@
 
 using namespace tessara;
 
-namespace
-{
+namespace {
 
 void printCommands(QTextStream& out)
 {
@@ -29,16 +28,17 @@ ExitStatus runCommand(const Command& command, const QStringList& words)
 {
     QCommandLineParser parser;
     parser.setApplicationDescription(QString::fromUtf8(command.summary));
-    const QCommandLineOption help = parser.addHelpOption();
-    parser.addPositionalArgument(QString::fromUtf8(command.name), QString(),
-                                 QString::fromUtf8(command.name) + u' ' +
-                                     QString::fromUtf8(command.synopsis));
-    addSettingsOptions(parser);
+    const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")},
+                                  QStringLiteral("Show this help."));
     command.addOptions(parser);
+    addSettingsOptions(parser);
+    parser.addOption(help);
     if (!parser.parse(words))
         return wrongUsage(parser.errorText());
     if (parser.isSet(help)) {
-        QTextStream(stdout) << parser.helpText();
+        const QString text = parser.helpText(); // its first line knows nothing of commands
+        QTextStream(stdout) << "Usage: tessara-cli " << command.name << " [options] "
+                            << command.synopsis << text.mid(text.indexOf(u'\n'));
         return kDone;
     }
     if (const QString error = applySettingsOptions(parser); !error.isEmpty())

@@ -1,0 +1,43 @@
+#include "scanning/SystemWiFiService.h"
+
+#include "foundation/Logging.h"
+#include "scanning/recorded/RecordedInterface.h"
+
+namespace tessara {
+
+namespace {
+
+/// How much time of a capture makes one scan when it is played, in seconds.
+constexpr double kSweepSeconds = 3.0;
+
+} // namespace
+
+SystemWiFiService::SystemWiFiService(Clock& clock, Pause& pause, NotificationCenter& notifications)
+    : m_clock(clock)
+    , m_pause(pause)
+    , m_notifications(notifications)
+    , m_kernel(NetworkManagerClient(QDBusConnection::systemBus()), pause)
+{
+}
+
+std::shared_ptr<CWInterface> SystemWiFiService::watched(std::shared_ptr<CWInterface> interface)
+{
+    if (interface && !m_watcher)
+        m_watcher.emplace(m_notifications);
+    return interface;
+}
+
+std::shared_ptr<CWInterface> SystemWiFiService::interfaceWithName(const QString& name)
+{
+    if (!name.startsWith(QStringView(kRecordedPrefix)))
+        return watched(m_kernel.interfaceWithName(name));
+    QString error;
+    std::shared_ptr<CWInterface> recorded =
+        RecordedInterface::open(name.mid(QStringView(kRecordedPrefix).size()), kSweepSeconds,
+                                {m_clock, m_pause, m_notifications}, error);
+    if (!recorded)
+        qCWarning(lcScanning, "%ls", qUtf16Printable(error));
+    return recorded;
+}
+
+} // namespace tessara
