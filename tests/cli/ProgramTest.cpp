@@ -1,0 +1,193 @@
+#include "support/QtPrinters.h"
+
+#include <QDir>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+struct Outcome {
+    int exitCode = -1;
+    QString out;
+    QString err;
+};
+
+/// Runs the program by way of a shell, in a folder of its own, with fresh settings.
+class ProgramTest : public testing::Test {
+protected:
+    Outcome run(const QString& arguments, const QString& setup = QString())
+    {
+        QProcess process;
+        process.setWorkingDirectory(folder.path());
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("XDG_CONFIG_HOME"), folder.path());
+        environment.insert(QStringLiteral("CLI"), QStringLiteral(TESSARA_CLI));
+        environment.insert(QStringLiteral("RECORDING"), QStringLiteral(TESSARA_RECORDING));
+        process.setProcessEnvironment(environment);
+        process.start(QStringLiteral("/bin/bash"),
+                      {QStringLiteral("-c"), setup + QStringLiteral("\n\"$CLI\" ") + arguments});
+        EXPECT_TRUE(process.waitForFinished(60'000));
+        return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
+                QString::fromUtf8(process.readAllStandardError())};
+    }
+
+    QByteArray contents(const char* name) const
+    {
+        QFile file(folder.filePath(QString::fromLatin1(name)));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+    void write(const char* name, const QByteArray& bytes) const
+    {
+        QFile file(folder.filePath(QString::fromLatin1(name)));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+    }
+
+    QTemporaryDir folder;
+};
+
+const QByteArray kTwoScans =
+    R"({"time":1700000000.5,"networks":[{"bssid":"a:0:0:0:0:1","channelNumber":6,"ssid":"Zoo","rssiValue":-50,"noiseMeasurement":-90,"beaconInterval":100},{"bssid":"a:0:0:0:0:2","channelNumber":36,"ssid":"Attic","rssiValue":-80}]}
+{"time":1700000003.5,"networks":[{"bssid":"a:0:0:0:0:1","channelNumber":6,"ssid":"Zoo","rssiValue":-52,"securityMode":9223372036854775807}]}
+)";
+
+} // namespace
+
+TEST_F(ProgramTest, TellsHowItIsUsed)
+{
+    struct Case {
+        const char* arguments;
+        int exitCode;
+        const char* out; ///< what standard output holds; nothing else does if empty
+        const char* err;
+    };
+    const Case cases[] = {
+        {"--help", 0, "convert INPUT OUTPUT", ""},
+        {"--version", 0, "tessara-cli 0.", ""},
+        {"networks --help", 0, "Usage: tessara-cli networks [options] INPUT", ""},
+        {"", 2, "", "which command?"},
+        {"fly", 2, "", "there is no command 'fly'"},
+        {"networks", 2, "", "networks takes one input"},
+        {"networks a.jsonl b.jsonl", 2, "", "networks takes one input"},
+        {"networks a.jsonl --nonsense", 2, "", "nonsense"},
+        {"networks a.jsonl --sort NO", 2, "", "there is no column 'NO'"},
+        {"networks a.jsonl --sort RSSI:up", 2, "", "'desc'"},
+        {"networks a.jsonl --columns SSID,NO", 2, "", "there is no column 'NO'"},
+        {"networks a.jsonl --format xml", 2, "", "'xml'"},
+        {"networks a.pcap --sweep 0", 2, "", "--sweep"},
+        {"networks a.jsonl --default Units", 2, "", "KEY=VALUE"},
+        {"networks a.jsonl --default Units=metric", 2, "", "'metric'"},
+        {"networks a.jsonl --default Unit=1", 2, "", "there is no setting 'Unit'"},
+        {"networks a.jsonl", 1, "", "a.jsonl"},
+        {"networks a.doc", 1, "", ".pcapng"},
+        {"convert a.jsonl b.txt", 2, "", "b.txt"},
+        {"scan --duration -1", 2, "", "--duration"},
+        {"scan --interface none0", 1, "", "there is no Wi-Fi interface 'none0'"},
+        {"scan --interface recorded:none.jsonl", 1, "", "none.jsonl"},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.arguments);
+        const Outcome outcome = run(QString::fromLatin1(c.arguments));
+        EXPECT_EQ(outcome.exitCode, c.exitCode);
+        EXPECT_TRUE(outcome.out.contains(QString::fromLatin1(c.out))) << outcome.out.toStdString();
+        EXPECT_EQ(outcome.out.isEmpty(), *c.out == '\0');
+        EXPECT_TRUE(outcome.err.contains(QString::fromLatin1(c.err))) << outcome.err.toStdString();
+        EXPECT_EQ(outcome.err.isEmpty(), *c.err == '\0');
+    }
+}
+
+TEST_F(ProgramTest, ListsTheNetworksAfterTheLastScan)
+{
+    write("two.jsonl", kTwoScans);
+    EXPECT_EQ(run(QStringLiteral("networks two.jsonl --columns SSID,RSSI,CHANNEL --sort SSID")).out,
+              QStringLiteral("Network Name  Signal  Channel\n"
+                             "Attic         30%          36\n"
+                             "Zoo           76%           6\n"));
+    EXPECT_EQ(run(QStringLiteral("networks two.jsonl --columns SSID,RSSI --sort RSSI:desc "
+                                 "--default Units=1"))
+                  .out,
+              QStringLiteral("Network Name  Signal\nZoo           -52\nAttic         -80\n"));
+    EXPECT_EQ(run(QStringLiteral("networks - --columns SSID <two.jsonl")).out,
+              QStringLiteral("Network Name\nZoo\nAttic\n"));
+
+    const QJsonObject json =
+        QJsonDocument::fromJson(
+            run(QStringLiteral("networks two.jsonl --format json")).out.toUtf8())
+            .object();
+    EXPECT_EQ(json[QStringLiteral("lastScanTime")].toDouble(), 1700000003.5);
+    const QJsonArray networks = json[QStringLiteral("networks")].toArray();
+    ASSERT_EQ(networks.size(), 2);
+    const QJsonObject attic = networks[1].toObject()[QStringLiteral("record")].toObject();
+    EXPECT_EQ(attic[QStringLiteral("rssi")].toInteger(), -120);
+    EXPECT_EQ(attic[QStringLiteral("rssiLast")].toInteger(), -80);
+    EXPECT_EQ(attic[QStringLiteral("dataPoints")].toInteger(), 2);
+    EXPECT_EQ(attic[QStringLiteral("lastSeenElapsedSeconds")].toDouble(), 3);
+    EXPECT_TRUE(attic[QStringLiteral("vendor")].isNull());
+    EXPECT_EQ(attic[QStringLiteral("securityMode")].toInteger(),
+              std::numeric_limits<qint64>::max());
+}
+
+TEST_F(ProgramTest, ShowsWhatCouldBeReadBeforeAnError)
+{
+    write("broken.jsonl", kTwoScans + "{\"time\":1}\n");
+    const Outcome outcome = run(QStringLiteral("networks broken.jsonl --columns SSID"));
+    EXPECT_EQ(outcome.exitCode, 1);
+    EXPECT_TRUE(outcome.out.contains(QStringLiteral("Zoo")));
+    EXPECT_TRUE(outcome.err.contains(QStringLiteral("line 3")) ||
+                outcome.err.contains(QStringLiteral(":3:")))
+        << outcome.err.toStdString();
+    EXPECT_EQ(outcome.err.count(u'\n'), 1);
+
+    write("out.jsonl", "old");
+    EXPECT_EQ(run(QStringLiteral("convert broken.jsonl out.jsonl")).exitCode, 1);
+    EXPECT_EQ(contents("out.jsonl"), "old") << "half a file does not replace a whole one";
+}
+
+TEST_F(ProgramTest, ConvertsInACircle)
+{
+    EXPECT_EQ(run(QStringLiteral("convert \"$RECORDING\" a.jsonl")).exitCode, 0);
+    EXPECT_EQ(run(QStringLiteral("convert a.jsonl b.jsonl.gz")).exitCode, 0);
+    EXPECT_EQ(run(QStringLiteral("convert b.jsonl.gz c.jsonl")).exitCode, 0);
+    EXPECT_FALSE(contents("a.jsonl").isEmpty());
+    EXPECT_EQ(contents("a.jsonl"), contents("c.jsonl"));
+    EXPECT_LT(contents("b.jsonl.gz").size(), contents("a.jsonl").size() / 4);
+}
+
+TEST_F(ProgramTest, AFullDiskLosesNothing)
+{
+    write("out.jsonl", "old");
+    // No file may grow beyond 100 KiB: writing fails as it does on a full disk.
+    const Outcome outcome = run(QStringLiteral("convert \"$RECORDING\" out.jsonl"),
+                                QStringLiteral("trap '' XFSZ; ulimit -f 100"));
+    EXPECT_EQ(outcome.exitCode, 1);
+    EXPECT_TRUE(outcome.err.contains(QStringLiteral("out.jsonl"))) << outcome.err.toStdString();
+    EXPECT_EQ(contents("out.jsonl"), "old");
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList{QStringLiteral("out.jsonl")});
+}
+
+TEST_F(ProgramTest, ScansARecordingInRealTimeAndSavesWhatItFinds)
+{
+    const Outcome table = run(QStringLiteral("scan --interface \"recorded:$RECORDING\" --duration "
+                                             "1.5 --columns BSSID,SEEN --sort BSSID"));
+    EXPECT_EQ(table.exitCode, 0) << table.err.toStdString();
+    EXPECT_GT(table.out.count(u'\n'), 5) << table.out.toStdString();
+
+    EXPECT_EQ(run(QStringLiteral("scan --interface \"recorded:$RECORDING\" --duration 1.5 "
+                                 "--save walk.jsonl"))
+                  .exitCode,
+              0);
+    EXPECT_GT(run(QStringLiteral("networks walk.jsonl")).out.count(u'\n'), 5);
+
+    // Control-C ends it as the duration does.
+    const Outcome interrupted = run(QStringLiteral(
+        "scan --interface \"recorded:$RECORDING\" & sleep 1.5; kill -INT $!; wait $!"));
+    EXPECT_EQ(interrupted.exitCode, 0);
+    EXPECT_GT(interrupted.out.count(u'\n'), 5);
+}
