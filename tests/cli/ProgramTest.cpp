@@ -172,14 +172,14 @@ TEST_F(ProgramTest, AFullDiskLosesNothing)
     EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList{QStringLiteral("out.jsonl")});
 }
 
-TEST_F(ProgramTest, ScansInRealTimeUntilTheDurationIsOverOrControlC)
+TEST_F(ProgramTest, ScansInRealTimeUntilTheDurationIsOverOrASignalComes)
 {
     // The program against the real clock: both ways at once.
     const Outcome outcome = run(QStringLiteral(
         "scan --interface \"recorded:$RECORDING\" --duration 4 --columns BSSID,SEEN >table.txt &\n"
         "table=$!\n"
         "\"$CLI\" scan --interface \"recorded:$RECORDING\" --save walk.jsonl &\n"
-        "sleep 4; kill -INT $!; wait $! && wait $table"));
+        "sleep 4; kill -TERM $!; wait $! && wait $table"));
     EXPECT_EQ(outcome.exitCode, 0) << outcome.err.toStdString();
     EXPECT_GT(contents("table.txt").count('\n'), 5) << contents("table.txt").toStdString();
     EXPECT_GT(run(QStringLiteral("networks walk.jsonl")).out.count(u'\n'), 5);
