@@ -58,6 +58,7 @@ ExitStatus run(const QCommandLineParser& parser, const QStringList& arguments)
     if (parser.isSet(QStringLiteral("save")))
         options.saveTo = parser.value(QStringLiteral("save"));
 
+    const TerminationSignals signalsOfTheUser([] { QCoreApplication::quit(); });
     ScanRuntime runtime;
     SystemWiFiService service(runtime.clock(), runtime.pause(), runtime.notifications());
     const QString name = parser.value(QStringLiteral("interface"));
@@ -70,7 +71,6 @@ ExitStatus run(const QCommandLineParser& parser, const QStringList& arguments)
     }
 
     ScanSession session(runtime, interface, options);
-    const TerminationSignals signalsOfTheUser([] { QCoreApplication::quit(); });
     QObject::connect(&session, &ScanSession::failed, qApp, &QCoreApplication::quit);
     if (*seconds > 0) {
         QTimer::singleShot(std::chrono::milliseconds(std::llround(*seconds * 1000)), qApp,

@@ -9,7 +9,8 @@ namespace tessara
 {
 
 /// Turns the signals by which a user or the system asks a program to end (SIGINT, SIGTERM, SIGHUP)
-/// into a call from the event loop, for as long as this lives. One at a time.
+/// into a call from the event loop, for as long as this lives. To be made before the program's
+/// other threads, which would take the signals otherwise. One at a time.
 class TerminationSignals
 {
 public:
