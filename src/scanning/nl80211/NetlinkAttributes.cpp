@@ -4,11 +4,9 @@
 
 #include <cstring>
 
-namespace tessara
-{
+namespace tessara {
 
-namespace
-{
+namespace {
 
 const nlattr* firstOf(Bytes attributes)
 {

@@ -8,15 +8,13 @@
 #include <optional>
 #include <vector>
 
-namespace tessara
-{
+namespace tessara {
 
 /// The attributes of one level of a netlink message, asked for by type. An attribute that is
 /// missing, or too short for the number asked for, is absent; of two of one type the first counts;
 /// what is cut off at the end is not there. Views the bytes of the message, which must outlive it
 /// and be aligned as netlink has them, to four bytes.
-class NetlinkAttributes
-{
+class NetlinkAttributes {
 public:
     explicit NetlinkAttributes(Bytes attributes)
         : m_attributes(attributes)

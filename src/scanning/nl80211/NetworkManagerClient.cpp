@@ -1,16 +1,15 @@
 #include "scanning/nl80211/NetworkManagerClient.h"
 
 #include <QDBusError>
+#include <QDBusMetaType>
 #include <QDBusObjectPath>
 #include <QDBusVariant>
 #include <QList>
 #include <QVariantMap>
 
-namespace tessara
-{
+namespace tessara {
 
-namespace
-{
+namespace {
 
 const auto kService = QStringLiteral("org.freedesktop.NetworkManager");
 const auto kManagerPath = QStringLiteral("/org/freedesktop/NetworkManager");
@@ -20,6 +19,7 @@ const auto kWireless = QStringLiteral("org.freedesktop.NetworkManager.Device.Wir
 const auto kProperties = QStringLiteral("org.freedesktop.DBus.Properties");
 const auto kWirelessEnabled = QStringLiteral("WirelessEnabled");
 const auto kNotAllowed = QStringLiteral("org.freedesktop.NetworkManager.Device.NotAllowed");
+const auto kNoOwner = QStringLiteral("org.freedesktop.DBus.Error.NameHasNoOwner");
 
 // Of NMDeviceState; in the states above them a device can scan.
 constexpr uint kStateUnmanaged = 10;
@@ -43,9 +43,12 @@ QVariant valueOf(const QDBusMessage& reply)
 
 QString reasonOf(const QDBusMessage& reply)
 {
+    const auto notRunning = QStringLiteral("NetworkManager is not running");
+    if (reply.errorName() == kNoOwner) // what a call that must not start the daemon gets
+        return notRunning;
     switch (QDBusError(reply).type()) {
     case QDBusError::ServiceUnknown:
-        return QStringLiteral("NetworkManager is not running");
+        return notRunning;
     case QDBusError::Disconnected:
         return QStringLiteral("there is no system bus to reach NetworkManager by");
     case QDBusError::NoReply:
@@ -64,6 +67,7 @@ NetworkManagerClient::NetworkManagerClient(QDBusConnection bus, int answerTimeou
     : m_bus(std::move(bus))
     , m_answerTimeout(answerTimeout)
 {
+    qDBusRegisterMetaType<QByteArrayList>(); // the names of a directed scan
 }
 
 QDBusMessage NetworkManagerClient::call(const QString& path, const QString& interface,

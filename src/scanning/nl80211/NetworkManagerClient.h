@@ -10,8 +10,7 @@
 
 #include <optional>
 
-namespace tessara
-{
+namespace tessara {
 
 /// A scan that NetworkManager was asked for.
 struct NetworkManagerScan {
@@ -30,8 +29,7 @@ struct NetworkManagerScan {
 /// NetworkManager, for what needs privileges that this program mostly runs without. It is never
 /// started by a call: where it does not run, another program rules the interface. All operations
 /// block for a bounded time and may be called from any thread.
-class NetworkManagerClient
-{
+class NetworkManagerClient {
 public:
     /// @param bus            the system bus
     /// @param answerTimeout  for one answer, in milliseconds

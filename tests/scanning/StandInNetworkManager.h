@@ -1,0 +1,67 @@
+#pragma once
+
+#include <QByteArrayList>
+#include <QDBusConnection>
+#include <QDBusVirtualObject>
+#include <QProcess>
+#include <QString>
+#include <QThread>
+
+#include <functional>
+#include <mutex>
+#include <optional>
+
+namespace tessara {
+
+/// A message bus of the test's own.
+class PrivateBus {
+public:
+    PrivateBus();
+    ~PrivateBus();
+
+    QString address() const { return m_address; }
+    /// A connection of its own to the bus; closed by the destructor.
+    QDBusConnection connection();
+    /// Ends the bus under those connected to it.
+    void stop();
+
+private:
+    QProcess m_daemon;
+    QString m_address;
+    QStringList m_names;
+};
+
+/// Plays NetworkManager with one Wi-Fi device, wlan0, on a bus and on a thread of its own. How it
+/// answers a request to scan is the test's to say.
+class StandInNetworkManager final : public QDBusVirtualObject {
+public:
+    enum class Answer { kAccept, kRateLimited, kDenied, kNever, kVanish };
+
+    explicit StandInNetworkManager(QDBusConnection bus);
+    ~StandInNetworkManager() override;
+
+    /// What it is and was asked for. Guarded, since it answers on another thread.
+    struct State {
+        Answer answer = Answer::kAccept;
+        std::uint32_t deviceState = 100;
+        std::int64_t lastScan = -1; ///< ms of CLOCK_BOOTTIME
+        std::optional<bool> wirelessEnabled = true;
+        int requests = 0;
+        QByteArrayList ssids;
+    };
+    State state() const;
+    void change(const std::function<void(State&)>& change);
+
+    QString introspect(const QString&) const override { return {}; }
+    bool handleMessage(const QDBusMessage& message, const QDBusConnection& bus) override;
+
+private:
+    QDBusMessage answerProperties(const QDBusMessage& message, State& state) const;
+
+    mutable std::mutex m_mutex;
+    State m_state;
+    std::optional<QDBusConnection> m_bus; ///< none once it has vanished
+    QThread m_thread;
+};
+
+} // namespace tessara
