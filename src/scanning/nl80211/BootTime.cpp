@@ -2,8 +2,7 @@
 
 #include <ctime>
 
-namespace tessara
-{
+namespace tessara {
 
 BootTime bootTimeNow()
 {

@@ -2,8 +2,7 @@
 
 #include <cstdint>
 
-namespace tessara
-{
+namespace tessara {
 
 /// Nanoseconds of CLOCK_BOOTTIME, the clock by which the kernel dates what it has heard.
 using BootTime = std::int64_t;

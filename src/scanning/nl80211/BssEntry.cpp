@@ -10,11 +10,9 @@
 #include <limits>
 #include <mutex>
 
-namespace tessara
-{
+namespace tessara {
 
-namespace
-{
+namespace {
 
 constexpr int kBSSIDLength = 6;
 // Bits of the capability field (IEEE Std 802.11-2020, figure 9-82).

@@ -12,8 +12,7 @@
 #include <optional>
 #include <vector>
 
-namespace tessara
-{
+namespace tessara {
 
 /// One entry of the kernel's list of networks (enum nl80211_bss). The kernel may hold two of one
 /// BSSID: a beacon without a name beside a probe response with it, or an old and a new channel.

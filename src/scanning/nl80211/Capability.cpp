@@ -5,8 +5,7 @@
 #include <sys/syscall.h>
 #include <unistd.h>
 
-namespace tessara
-{
+namespace tessara {
 
 bool mayTriggerScans()
 {

@@ -1,7 +1,6 @@
 #pragma once
 
-namespace tessara
-{
+namespace tessara {
 
 /// Whether the process may configure the network (CAP_NET_ADMIN), which the kernel demands of
 /// those who trigger a scan.

@@ -2,12 +2,10 @@
 
 #include <unistd.h>
 
-namespace tessara
-{
+namespace tessara {
 
 /// Owns an open file descriptor, or none (-1), and closes it.
-class FileDescriptor
-{
+class FileDescriptor {
 public:
     explicit FileDescriptor(int descriptor = -1)
         : m_descriptor(descriptor)

@@ -5,11 +5,9 @@
 #include <algorithm>
 #include <iterator>
 
-namespace tessara
-{
+namespace tessara {
 
-namespace
-{
+namespace {
 
 struct WidthCode {
     nl80211_chan_width code;

@@ -9,8 +9,7 @@
 #include <optional>
 #include <vector>
 
-namespace tessara
-{
+namespace tessara {
 
 /// What the kernel says of one wireless interface.
 struct InterfaceInfo {

@@ -12,11 +12,9 @@
 #include <linux/rtnetlink.h>
 #include <sys/socket.h>
 
-namespace tessara
-{
+namespace tessara {
 
-namespace
-{
+namespace {
 
 /// A socket that receives a message for each change of a network interface; -1 on failure.
 int openLinkSocket()
@@ -31,6 +29,16 @@ int openLinkSocket()
         return descriptor;
     const FileDescriptor unusable(descriptor);
     return -1;
+}
+
+int openRfkill()
+{
+    const int descriptor = open(kRfkillDevice, O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+    const int error = errno;
+    if (descriptor < 0)
+        qCWarning(lcScanning, "Cannot read %s (%s): radio switches are noticed late.",
+                  kRfkillDevice, std::strerror(error));
+    return descriptor;
 }
 
 /// Reads and forgets all that has come; what happened is then asked afresh.
@@ -54,7 +62,7 @@ QMap<QString, bool> powerOfAllInterfaces()
 Nl80211EventWatcher::Nl80211EventWatcher(NotificationCenter& notifications)
     : m_notifications(notifications)
     , m_links(openLinkSocket())
-    , m_rfkill(open(kRfkillDevice, O_RDONLY | O_CLOEXEC | O_NONBLOCK))
+    , m_rfkill(openRfkill())
     , m_power(powerOfAllInterfaces())
 {
     if (m_wifi.subscribe(NL80211_MULTICAST_GROUP_MLME) != 0) {
@@ -68,9 +76,6 @@ Nl80211EventWatcher::Nl80211EventWatcher(NotificationCenter& notifications)
         qCWarning(lcScanning, "No rtnetlink: interfaces that go up or down go unnoticed.");
     if (m_rfkill.isOpen())
         watch(m_rfkill.get(), &Nl80211EventWatcher::readRfkillEvents);
-    else
-        qCWarning(lcScanning, "Cannot read %s (%s): radio switches are noticed late.",
-                  kRfkillDevice, std::strerror(errno));
 }
 
 void Nl80211EventWatcher::watch(int descriptor, void (Nl80211EventWatcher::*read)())

@@ -11,14 +11,12 @@
 #include <memory>
 #include <vector>
 
-namespace tessara
-{
+namespace tessara {
 
 /// Posts the notifications of the Wi-Fi service: it listens to nl80211, to the state of network
 /// links and to the radio switches, in the event loop of the thread that it is created on. What
 /// cannot be listened to is logged once and left out.
-class Nl80211EventWatcher
-{
+class Nl80211EventWatcher {
 public:
     /// @param notifications must outlive the watcher
     explicit Nl80211EventWatcher(NotificationCenter& notifications);

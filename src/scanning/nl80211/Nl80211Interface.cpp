@@ -15,11 +15,9 @@
 #include <cstring>
 #include <mutex>
 
-namespace tessara
-{
+namespace tessara {
 
-namespace
-{
+namespace {
 
 CWError failure(const QString& description)
 {
@@ -90,12 +88,11 @@ std::optional<CWError> Nl80211Interface::setPower(bool on)
                            .arg(m_name));
     const bool wasBlocked = std::ranges::any_of(switches, &RfkillSwitch::isBlocked);
     if (!setSoftBlocked(switches, !on)) {
-        const auto reason = m_networkManager.setWirelessEnabled(on);
-        return reason ? std::optional(failure(
-                            QStringLiteral("No permission to switch the radio of %1, and %2")
-                                .arg(m_name, *reason)))
-                      : std::nullopt;
+        if (const auto reason = m_networkManager.setWirelessEnabled(on))
+            return failure(QStringLiteral("No permission to switch the radio of %1, and %2")
+                               .arg(m_name, *reason));
     }
+    // The kernel takes an interface down with its radio, but does not bring it up again.
     if (!on || isInterfaceUp(m_name) || isBroughtUpByNetworkManager(wasBlocked))
         return std::nullopt;
     return failure(QStringLiteral("The interface %1 is down: bring %1 up").arg(m_name));

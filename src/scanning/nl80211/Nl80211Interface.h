@@ -5,8 +5,7 @@
 #include "scanning/nl80211/BssEntry.h"
 #include "scanning/nl80211/NetworkManagerClient.h"
 
-namespace tessara
-{
+namespace tessara {
 
 struct InterfaceInfo;
 
@@ -15,8 +14,7 @@ struct InterfaceInfo;
 /// never configured, brought up or down: only its radio's block is released when asked for.
 ///
 /// It goes by its name, so that an adapter that is plugged in again is found again.
-class Nl80211Interface final : public CWInterface
-{
+class Nl80211Interface final : public CWInterface {
 public:
     /// @param pause must outlive the interface; it tells when the program shuts down
     Nl80211Interface(QString name, NetworkManagerClient networkManager, Pause& pause);

@@ -6,8 +6,7 @@
 #include <algorithm>
 #include <cstring>
 
-namespace tessara
-{
+namespace tessara {
 
 std::optional<Nl80211Message> nl80211Message(Bytes netlinkMessage)
 {

@@ -4,8 +4,7 @@
 
 struct nlmsghdr;
 
-namespace tessara
-{
+namespace tessara {
 
 /// One message of nl80211: a command and its attributes. Views the bytes it was read from.
 struct Nl80211Message {

@@ -3,8 +3,7 @@
 #include "scanning/nl80211/InterfaceInfo.h"
 #include "scanning/nl80211/Nl80211Interface.h"
 
-namespace tessara
-{
+namespace tessara {
 
 Nl80211Service::Nl80211Service(NetworkManagerClient networkManager, Pause& pause)
     : m_networkManager(std::move(networkManager))

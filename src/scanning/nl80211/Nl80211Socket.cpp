@@ -11,11 +11,9 @@
 #include <sys/socket.h>
 #include <sys/time.h>
 
-namespace tessara
-{
+namespace tessara {
 
-namespace
-{
+namespace {
 
 // The kernel answers at once; this guards against a driver that holds its lock for good.
 constexpr timeval kAnswerTimeout = {5, 0};

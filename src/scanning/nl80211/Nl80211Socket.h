@@ -10,8 +10,7 @@
 struct nl_msg;
 struct nl_sock;
 
-namespace tessara
-{
+namespace tessara {
 
 /// How a request to the kernel ended.
 struct NetlinkReply {
@@ -21,8 +20,7 @@ struct NetlinkReply {
 
 /// A socket to the kernel's nl80211. Each request and each watcher opens its own, so that none
 /// ever waits for, or reads the answers of, another; a socket is used by one thread at a time.
-class Nl80211Socket
-{
+class Nl80211Socket {
 public:
     using Attributes = std::function<void(nl_msg*)>;
     using Handler = std::function<void(const Nl80211Message&)>;

@@ -8,8 +8,7 @@
 #include <sys/ioctl.h>
 #include <sys/socket.h>
 
-namespace tessara
-{
+namespace tessara {
 
 bool isInterfaceUp(const QString& interfaceName)
 {

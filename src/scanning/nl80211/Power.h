@@ -2,8 +2,7 @@
 
 #include <QString>
 
-namespace tessara
-{
+namespace tessara {
 
 /// Whether an interface exists and is up, administratively (IFF_UP).
 bool isInterfaceUp(const QString& interfaceName);

@@ -5,8 +5,7 @@
 
 #include <netlink/attr.h>
 
-namespace tessara
-{
+namespace tessara {
 
 std::vector<std::uint32_t> readScannableFrequencies(unsigned radio)
 {

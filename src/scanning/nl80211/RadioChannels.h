@@ -5,8 +5,7 @@
 #include <cstdint>
 #include <vector>
 
-namespace tessara
-{
+namespace tessara {
 
 /// The centres in MHz of the channels, of the bands that the program knows, that a radio may use.
 /// To scan these alone halves the time of a scan for a radio that has the 6 GHz band as well.

@@ -10,11 +10,9 @@
 #include <linux/rfkill.h>
 #include <unistd.h>
 
-namespace tessara
-{
+namespace tessara {
 
-namespace
-{
+namespace {
 
 int readNumber(const QString& path)
 {

@@ -5,8 +5,7 @@
 #include <cstdint>
 #include <vector>
 
-namespace tessara
-{
+namespace tessara {
 
 /// Where the kernel tells of changes of the switches and takes wishes.
 inline constexpr auto kRfkillDevice = "/dev/rfkill";

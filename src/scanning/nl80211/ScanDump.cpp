@@ -2,11 +2,9 @@
 
 #include "scanning/nl80211/Nl80211Socket.h"
 
-namespace tessara
-{
+namespace tessara {
 
-namespace
-{
+namespace {
 
 constexpr int kMaxReadings = 5;
 

@@ -2,8 +2,7 @@
 
 #include "scanning/nl80211/BssEntry.h"
 
-namespace tessara
-{
+namespace tessara {
 
 /// What the kernel's list of networks holds.
 struct ScanDump {

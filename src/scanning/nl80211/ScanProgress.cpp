@@ -2,8 +2,7 @@
 
 #include <linux/nl80211.h>
 
-namespace tessara
-{
+namespace tessara {
 
 ScanProgress::ScanProgress(unsigned radio, std::optional<unsigned> interfaceIndex, bool hasBegun)
     : m_radio(radio)

@@ -5,8 +5,7 @@
 
 #include <optional>
 
-namespace tessara
-{
+namespace tessara {
 
 /// How a scan came to its end.
 enum class ScanEnd {
@@ -19,8 +18,7 @@ enum class ScanEnd {
 
 /// Follows the events of the multicast group "scan" and tells the end of one scan from that of
 /// others.
-class ScanProgress
-{
+class ScanProgress {
 public:
     /// A scan that we have triggered on an interface. Only an end that comes after its beginning
     /// is its own: what a socket received before may tell of an earlier scan.

@@ -10,11 +10,9 @@
 #include <chrono>
 #include <net/if.h>
 
-namespace tessara
-{
+namespace tessara {
 
-namespace
-{
+namespace {
 
 using SteadyClock = std::chrono::steady_clock;
 using namespace std::chrono_literals;

@@ -8,8 +8,7 @@
 
 #include <optional>
 
-namespace tessara
-{
+namespace tessara {
 
 /// The longest that a scan takes. Where its beginning is not known, what was heard within this time
 /// before its end counts as heard by it.

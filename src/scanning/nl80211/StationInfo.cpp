@@ -2,11 +2,9 @@
 
 #include "scanning/nl80211/Nl80211Socket.h"
 
-namespace tessara
-{
+namespace tessara {
 
-namespace
-{
+namespace {
 
 // nl80211_sta_flag_update: a mask of the flags that are known, then their values.
 bool isDirectPeer(const NetlinkAttributes& station)

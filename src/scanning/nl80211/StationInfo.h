@@ -4,8 +4,7 @@
 
 #include <optional>
 
-namespace tessara
-{
+namespace tessara {
 
 /// The rate in Mbit/s at which the interface last sent to its access point; none if it is not
 /// associated or has sent nothing yet.

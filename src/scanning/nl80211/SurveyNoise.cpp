@@ -2,8 +2,7 @@
 
 #include "scanning/nl80211/Nl80211Socket.h"
 
-namespace tessara
-{
+namespace tessara {
 
 ChannelNoise readChannelNoise(unsigned interfaceIndex)
 {

@@ -2,8 +2,7 @@
 
 #include "scanning/nl80211/BssEntry.h"
 
-namespace tessara
-{
+namespace tessara {
 
 /// The noise by channel, of those channels for which the driver has measured it; mostly none.
 ChannelNoise readChannelNoise(unsigned interfaceIndex);
