@@ -170,6 +170,9 @@ CWScan Nl80211Interface::scanForNetworksWithSSID(const std::optional<QByteArray>
     const auto info = readInterface(m_name);
     if (!info)
         return {{}, failure(descriptionOf(ENODEV, m_name))};
+    // The kernel would say so too, but only to those who may scan.
+    if (!powerOn())
+        return {{}, failure(descriptionOf(ENETDOWN, m_name))};
     const ScanRun run = runScan(*info, ssid, m_pause);
     switch (run.end) {
     case ScanEnd::kFinished:
