@@ -87,7 +87,8 @@ std::optional<CWError> Nl80211Interface::setPower(bool on)
         return failure(QStringLiteral("A switch or key of this machine keeps the radio of %1 off")
                            .arg(m_name));
     const bool wasBlocked = std::ranges::any_of(switches, &RfkillSwitch::isBlocked);
-    if (!setSoftBlocked(switches, !on)) {
+    const bool isWithinReach = on || !switches.empty();
+    if (!isWithinReach || !setSoftBlocked(switches, !on)) {
         if (const auto reason = m_networkManager.setWirelessEnabled(on))
             return failure(QStringLiteral("No permission to switch the radio of %1, and %2")
                                .arg(m_name, *reason));
