@@ -41,7 +41,7 @@ GzipFile::GzipFile(QString path)
 {
 }
 
-bool GzipFile::open()
+bool GzipFile::openForReading()
 {
     errno = 0;
     m_file.reset(m_path == kStandardInput ? gzdopen(::dup(STDIN_FILENO), "rb")

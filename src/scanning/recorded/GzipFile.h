@@ -28,7 +28,7 @@ public:
     explicit GzipFile(QString path);
 
     /// Opens for reading. @return whether that went well; `errorString` tells why not
-    bool open();
+    bool openForReading();
     /// Goes back to the beginning, which standard input cannot.
     bool reset() override;
     bool isSequential() const override { return true; }

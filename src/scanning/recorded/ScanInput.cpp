@@ -69,7 +69,7 @@ ScanInput openScanInput(const QString& path, double sweepSeconds)
 
     const QString name = isStandardInput ? localized("standard input") : path;
     auto file = std::make_unique<GzipFile>(path);
-    if (!file->open())
+    if (!file->openForReading())
         return {nullptr, localized("%1: %2").arg(name, file->errorString())};
     if (isStandardInput || ending->kind == Kind::kRecording)
         return {std::make_unique<RecordingReader>(std::move(file), name), {}};

@@ -5,6 +5,7 @@
 
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QLocale>
 
 #include <algorithm>
 #include <cmath>
@@ -126,17 +127,21 @@ bool hasSignals(const ScanResults& networks)
 
 QByteArray lineOfScan(const RecordedScan& scan)
 {
-    QJsonArray networks;
+    // Network by network: as one document, a scan would take its memory several times over.
+    QByteArray line =
+        "{\"time\":" + QByteArray::number(scan.time, 'g', QLocale::FloatingPointShortest) +
+        ",\"networks\":[";
     for (const ScanDictionary& network : scan.networks) {
         QJsonObject object;
         forEachKey(network, [&](QLatin1String key, const auto& member) {
             if (member)
                 object.insert(key, jsonOf(*member));
         });
-        networks.append(object);
+        if (&network != &scan.networks.front())
+            line += ',';
+        line += QJsonDocument(object).toJson(QJsonDocument::Compact);
     }
-    const QJsonObject line{{kTime, scan.time}, {kNetworks, networks}};
-    return QJsonDocument(line).toJson(QJsonDocument::Compact) + '\n';
+    return line + "]}\n";
 }
 
 std::variant<RecordedScan, QString> scanOfObject(const QJsonObject& object)
