@@ -198,8 +198,9 @@ TEST(CaptureReader, SaysInOneLineWhatIsWrongWithAFile)
         {"text", "It was a dark and stormy night; the rain fell.", 0, "test.pcap: not a capture"},
         {"header cut short", good.first(10), 0, "test.pcap: not a capture"},
         {"Ethernet", capture(1, {{kStart, kBeacon}}), 0, "its link type is EN10MB"},
-        {"cut in a packet", good.chopped(20), 1, "test.pcap: the capture is damaged or cut short"},
-        {"cut in a packet's header", good.chopped(kBeacon.size() + 3), 1, "cut short"},
+        {"cut in a packet", good.chopped(20), 1,
+         "test.pcap: the rest of the capture cannot be read"},
+        {"cut in a packet's header", good.chopped(kBeacon.size() + 3), 1, "cannot be read"},
         {"no packets", capture(kBare, {}), 0, ""},
     };
     for (const Case& c : cases) {

@@ -200,6 +200,28 @@ TEST_F(RecordingFiles, ThatAreCutShortGiveWhatTheyHave)
     }
 }
 
+TEST_F(RecordingFiles, OfPackedFramesThatAreCutShortGiveWhatTheyHave)
+{
+    std::vector<PacketToBuild> packets;
+    for (int i = 0; i < 2000; ++i)
+        packets.push_back({double(i), build({.elements = QByteArray::number(i * 2654435761u)})});
+    const QByteArray frames = capture(105, packets);
+    const GzipHandle file(gzopen(QFile::encodeName(path("whole.pcap.gz")).constData(), "wb"));
+    ASSERT_EQ(gzwrite(file.get(), frames.constData(), static_cast<unsigned>(frames.size())),
+              frames.size());
+    gzflush(file.get(), Z_FINISH);
+    const QByteArray whole = contentOf(path("whole.pcap.gz"));
+    writeFile(path("cut.pcap.gz"), whole.chopped(whole.size() / 2));
+
+    const ScanInput input = openScanInput(path("cut.pcap.gz"), 3.0);
+    ASSERT_TRUE(input.reader) << qPrintable(input.error);
+    const auto scans = allScans(*input.reader);
+    EXPECT_GT(scans.size(), 100u);
+    EXPECT_LT(scans.size(), 600u);
+    EXPECT_THAT(input.reader->error().toStdString(),
+                EndsWith("cut.pcap.gz: the compressed data ends too early"));
+}
+
 TEST(RecordingReader, TakesRecordingsOfAnyLayout)
 {
     struct Case {

@@ -75,7 +75,7 @@ void CaptureFile::fail(const char* reason)
     else if (!m_capture)
         m_error = localized("not a capture (%1)").arg(QString::fromLocal8Bit(reason));
     else
-        m_error = localized("the capture is damaged or cut short (%1)")
+        m_error = localized("the rest of the capture cannot be read (%1)")
                       .arg(QString::fromLocal8Bit(reason));
 }
 
