@@ -7,11 +7,9 @@
 
 #include <algorithm>
 
-namespace tessara
-{
+namespace tessara {
 
-namespace
-{
+namespace {
 
 // The frame control field, IEEE Std 802.11-2020, 9.2.4.1.
 constexpr std::uint16_t kVersionTypeSubtype = 0x00ff;

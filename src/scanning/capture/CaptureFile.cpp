@@ -4,8 +4,7 @@
 
 #include <pcap/pcap.h>
 
-namespace tessara
-{
+namespace tessara {
 
 void CaptureFile::Closer::operator()(pcap* capture) const
 {

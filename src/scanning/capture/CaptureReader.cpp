@@ -5,11 +5,9 @@
 #include <algorithm>
 #include <cmath>
 
-namespace tessara
-{
+namespace tessara {
 
-namespace
-{
+namespace {
 
 constexpr double kMostSilentSweeps = 100;
 constexpr double kClockWasSetBack = 60; // seconds

@@ -5,11 +5,9 @@
 
 #include <algorithm>
 
-namespace tessara
-{
+namespace tessara {
 
-namespace
-{
+namespace {
 
 quint64 keyOf(const BeaconFrame& beacon)
 {

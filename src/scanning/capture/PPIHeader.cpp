@@ -1,10 +1,8 @@
 #include "scanning/capture/RadioHeaders.h"
 
-namespace tessara
-{
+namespace tessara {
 
-namespace
-{
+namespace {
 
 constexpr std::uint8_t kFieldsAreAligned = 0x01; ///< flag of the packet header: to 32 bits
 constexpr std::uint32_t kIEEE80211 = 105;        ///< link type of what follows the header

@@ -1,14 +1,16 @@
 #include "model/Band.h"
 #include "scanning/capture/RadioHeaders.h"
 
-namespace tessara
-{
+namespace tessara {
 
-namespace
-{
+namespace {
 
-/// Message codes of the wlan-ng header, written by machines of little-endian order.
-constexpr std::uint32_t kSniffFrameCodes[] = {0x00000041, 0x00000044};
+/// Whether a message of wlan-ng, written by a machine of little-endian order, holds a frame.
+constexpr bool isSniffFrame(std::uint32_t messageCode)
+{
+    return messageCode == 0x00000041 || messageCode == 0x00000044;
+}
+
 constexpr std::uint16_t kItemHasValue = 0;
 
 /// The items of a message. Drivers number them in either of two ways.
@@ -45,7 +47,7 @@ std::optional<std::uint32_t> u32BigEndian(const ByteReader& reader, std::size_t 
 
 bool isAVS(const ByteReader& packet)
 {
-    const auto version = u32BigEndian(packet, 0);
+    const std::uint32_t version = u32BigEndian(packet, 0).value_or(0);
     return version == 0x80211001 || version == 0x80211002;
 }
 
@@ -59,9 +61,7 @@ std::optional<ReceivedFrame> decodePrism(Bytes packet)
     if (isAVS(header))
         return decodeAVS(packet);
     const std::size_t end = header.u32(4).value_or(0);
-    const auto code = header.u32(0);
-    if ((code != kSniffFrameCodes[0] && code != kSniffFrameCodes[1]) || end < kMessageHeader ||
-        end > packet.size())
+    if (!isSniffFrame(header.u32(0).value_or(0)) || end < kMessageHeader || end > packet.size())
         return std::nullopt;
 
     ReceivedFrame result{.frame = packet.subspan(end)};

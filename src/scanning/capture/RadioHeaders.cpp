@@ -2,11 +2,9 @@
 
 #include <algorithm>
 
-namespace tessara
-{
+namespace tessara {
 
-namespace
-{
+namespace {
 
 std::optional<ReceivedFrame> decodeBareFrame(Bytes packet)
 {

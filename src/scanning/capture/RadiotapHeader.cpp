@@ -3,11 +3,9 @@
 #include <array>
 #include <vector>
 
-namespace tessara
-{
+namespace tessara {
 
-namespace
-{
+namespace {
 
 /// Bits of a present word that are fields with a meaning here, or no fields at all.
 enum PresentBit : unsigned {

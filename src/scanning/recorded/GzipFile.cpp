@@ -8,11 +8,9 @@
 #include <cerrno>
 #include <unistd.h>
 
-namespace tessara
-{
+namespace tessara {
 
-namespace
-{
+namespace {
 
 constexpr unsigned kBufferSize = 1 << 17;
 constexpr qint64 kMostBytesAtOnce = 1 << 30; // zlib counts in int

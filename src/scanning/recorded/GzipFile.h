@@ -7,8 +7,7 @@
 
 #include <memory>
 
-namespace tessara
-{
+namespace tessara {
 
 /// Closes a zlib file whose last error no longer matters.
 struct GzipCloser {
@@ -19,8 +18,7 @@ using GzipHandle = std::unique_ptr<gzFile_s, GzipCloser>;
 /// A file read from its beginning on, unpacked on the way if it is packed with gzip and as it is
 /// if not. `read` gives 0 at the end and -1 after an error, for instance where packed bytes end
 /// too early: what could be unpacked before is given first.
-class GzipFile final : public QIODevice
-{
+class GzipFile final : public QIODevice {
 public:
     /// The name of standard input, for those who take a name from a command line.
     static constexpr QLatin1String kStandardInput{"-"};

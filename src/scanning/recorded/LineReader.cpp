@@ -3,11 +3,9 @@
 #include <algorithm>
 #include <utility>
 
-namespace tessara
-{
+namespace tessara {
 
-namespace
-{
+namespace {
 
 constexpr qsizetype kBytesAtOnce = 1 << 18;
 

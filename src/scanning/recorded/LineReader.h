@@ -5,13 +5,11 @@
 
 #include <optional>
 
-namespace tessara
-{
+namespace tessara {
 
 /// Cuts a device's bytes into lines, however long they are, and holds little more than the line
 /// at hand.
-class LineReader
-{
+class LineReader {
 public:
     /// @param longest the bytes that a line may have
     LineReader(QIODevice& device, qsizetype longest);

@@ -12,11 +12,9 @@
 #include <algorithm>
 #include <cmath>
 
-namespace tessara
-{
+namespace tessara {
 
-namespace
-{
+namespace {
 
 constexpr qsizetype kLongestName = 24; // has a place in a line with other things
 
@@ -31,8 +29,7 @@ constexpr double kLongestWait = 2.0;
 constexpr double kBeyondTheEdge = 0.001;
 
 /// Holds equal values once. Most networks say the same in every scan of a recording.
-class Pool
-{
+class Pool {
 public:
     void share(std::optional<QByteArray>& bytes) { shareIn(m_bytes, bytes); }
     void share(std::optional<QString>& text) { shareIn(m_texts, text); }
@@ -170,7 +167,7 @@ std::optional<RecordedInterface::Association> RecordedInterface::association() c
     return m_powerOn ? m_association : std::nullopt;
 }
 
-void RecordedInterface::setAssociation(std::optional<Association> association)
+void RecordedInterface::setAssociation(const std::optional<Association>& association)
 {
     std::optional<Association> before;
     {

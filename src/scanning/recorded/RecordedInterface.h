@@ -10,14 +10,12 @@
 #include <optional>
 #include <vector>
 
-namespace tessara
-{
+namespace tessara {
 
 /// An interface that finds the networks of a recording or a capture, in real time and over and
 /// over: which scan is in force follows from how long ago the interface was made and from the
 /// scans' own times. Its power and its association are what the caller sets.
-class RecordedInterface final : public CWInterface
-{
+class RecordedInterface final : public CWInterface {
 public:
     /// The network that the interface says to be associated with.
     struct Association {
@@ -55,7 +53,7 @@ public:
     std::optional<CWChannel> wlanChannel() const override;
     double transmitRate() const override;
     /// Associates with a network, or with none.
-    void setAssociation(std::optional<Association> association);
+    void setAssociation(const std::optional<Association>& association);
 
     /// The networks of the scan in force.
     std::vector<CWNetwork> cachedScanResults() const override;

@@ -7,11 +7,9 @@
 
 #include <algorithm>
 
-namespace tessara
-{
+namespace tessara {
 
-namespace
-{
+namespace {
 
 /// A million networks with all their elements fit; what is longer is a trap for the memory.
 constexpr qsizetype kLongestLine = qsizetype{2} << 30;

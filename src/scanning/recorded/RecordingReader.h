@@ -5,14 +5,12 @@
 
 #include <memory>
 
-namespace tessara
-{
+namespace tessara {
 
 /// Reads a recording: lines of JSON, each `{"time": seconds since 1970, "networks": [raw scan
 /// dictionaries]}`. Holds one line at a time. A line that is anything else ends the reading with
 /// an error that names it; keys that it does not know are passed over.
-class RecordingReader final : public ScanReader
-{
+class RecordingReader final : public ScanReader {
 public:
     /// @param device the bytes of the recording, open for reading
     /// @param name what error messages call it

@@ -6,8 +6,7 @@
 #include <cerrno>
 #include <unistd.h>
 
-namespace tessara
-{
+namespace tessara {
 
 RecordingWriter::RecordingWriter(const QString& path)
     : m_file(path)

@@ -5,14 +5,12 @@
 
 #include <QSaveFile>
 
-namespace tessara
-{
+namespace tessara {
 
 /// Writes a recording, scan by scan. A name that ends in ".gz" gets a compressed one. The file
 /// appears under its name, whole, when `finish` succeeds; until then, and after any fault, what
 /// stood there before is untouched.
-class RecordingWriter
-{
+class RecordingWriter {
 public:
     explicit RecordingWriter(const QString& path);
 

@@ -1,7 +1,6 @@
 #include "scanning/recorded/Replay.h"
 
-namespace tessara
-{
+namespace tessara {
 
 Replay replay(ScanReader& reader, MergeLimits limits)
 {

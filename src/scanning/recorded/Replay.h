@@ -4,8 +4,7 @@
 #include "scanning/NetworkMerge.h"
 #include "scanning/recorded/ScanReader.h"
 
-namespace tessara
-{
+namespace tessara {
 
 /// The list after the scans of a file.
 struct Replay {

@@ -11,11 +11,9 @@
 #include <cmath>
 #include <optional>
 
-namespace tessara
-{
+namespace tessara {
 
-namespace
-{
+namespace {
 
 enum class Kind { kRecording, kCapture };
 

@@ -6,8 +6,7 @@
 
 #include <memory>
 
-namespace tessara
-{
+namespace tessara {
 
 /// A file opened for its scans, or the reason, in one line for the user, why it is not.
 struct ScanInput {

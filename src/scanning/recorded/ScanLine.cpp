@@ -10,11 +10,9 @@
 #include <algorithm>
 #include <cmath>
 
-namespace tessara
-{
+namespace tessara {
 
-namespace
-{
+namespace {
 
 const QLatin1String kTime("time");
 const QLatin1String kNetworks("networks");

@@ -7,8 +7,7 @@
 
 #include <variant>
 
-namespace tessara
-{
+namespace tessara {
 
 /// One line of a recording, with its line feed.
 QByteArray lineOfScan(const RecordedScan& scan);

@@ -7,8 +7,7 @@
 #include <memory>
 #include <optional>
 
-namespace tessara
-{
+namespace tessara {
 
 /// One scan of a file.
 struct RecordedScan {
@@ -22,8 +21,7 @@ struct RecordedScan {
 };
 
 /// Reads the scans of a file one by one, in the order of the file.
-class ScanReader
-{
+class ScanReader {
 public:
     virtual ~ScanReader() = default;
 
