@@ -6,14 +6,9 @@
 #include <limits>
 #include <utility>
 
-namespace tessara
-{
+namespace tessara {
 
-namespace
-{
-
-/// The value of `Sensitivity` that lets everything in.
-constexpr std::int64_t kSensitivityOff = 85;
+namespace {
 
 double ageLimit(const Defaults& defaults)
 {
@@ -28,8 +23,7 @@ double ageLimit(const Defaults& defaults)
 
 /// Finds the record of a dictionary as a search of the list in order would: a hash table whose
 /// chains run through the places of the list, each chain in ascending order.
-class RecordIndex
-{
+class RecordIndex {
 public:
     /// Keeps a reference to the list, to which records may be appended.
     explicit RecordIndex(const NetworkList& records, std::size_t expected)

@@ -6,13 +6,15 @@
 #include <cstdint>
 #include <optional>
 
-namespace tessara
-{
+namespace tessara {
 
 class Defaults;
 
 /// What the merge leaves out.
 struct MergeLimits {
+    /// The value of `Sensitivity` that lets everything in.
+    static constexpr int kSensitivityOff = 85;
+
     /// A reading below this, in dBm, counts as not reported; none lets everything in.
     std::optional<std::int64_t> weakestSignal;
     /// A network not seen for more whole seconds than this is removed.

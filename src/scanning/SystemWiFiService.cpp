@@ -1,6 +1,8 @@
 #include "scanning/SystemWiFiService.h"
 
+#include "foundation/Defaults.h"
 #include "foundation/Logging.h"
+#include "scanning/NetworkMerge.h"
 #include "scanning/recorded/RecordedInterface.h"
 
 namespace tessara {
@@ -32,11 +34,15 @@ std::shared_ptr<CWInterface> SystemWiFiService::interfaceWithName(const QString&
     if (!name.startsWith(QStringView(kRecordedPrefix)))
         return watched(m_kernel.interfaceWithName(name));
     QString error;
-    std::shared_ptr<CWInterface> recorded =
+    std::shared_ptr<RecordedInterface> recorded =
         RecordedInterface::open(name.mid(QStringView(kRecordedPrefix).size()), kSweepSeconds,
                                 {m_clock, m_pause, m_notifications}, error);
     if (!recorded)
         qCWarning(lcScanning, "%ls", qUtf16Printable(error));
+    // Networks without any signal are to be seen all the same.
+    else if (!recorded->recordsSignal())
+        Defaults::standard().overrideForThisRun(DefaultKey::Sensitivity,
+                                                QVariant(MergeLimits::kSensitivityOff));
     return recorded;
 }
 

@@ -8,8 +8,7 @@ using namespace tessara;
 using testing::ElementsAre;
 using testing::HasSubstr;
 
-namespace
-{
+namespace {
 
 constexpr int kBare = 105;
 constexpr int kRadiotap = 127;
@@ -164,14 +163,18 @@ TEST(CaptureReader, DoesNotFillALeapOfYearsWithScans)
     EXPECT_EQ(outcome.scans[101].networks.size(), 1u);
 }
 
-TEST(CaptureReader, TellsNoReadingFromNoSignalsAtAll)
+TEST(CaptureReader, TellsNoReadingFromNoSignalAtAll)
 {
-    const auto mixed =
-        readCapture(capture(kRadiotap, {{kStart, withoutSignal(kBeacon)},
-                                        {kStart + 1, withSignal(-60, build({.bssid = kOther}))}}));
-    ASSERT_EQ(mixed.scans.size(), 1u);
-    EXPECT_TRUE(mixed.scans[0].recordsSignal);
-    EXPECT_EQ(mixed.scans[0].networks[0].rssiValue, 0);
+    const QByteArray other = build({.bssid = kOther});
+    const auto mixed = readCapture(capture(kRadiotap, {{kStart, withoutSignal(kBeacon)},
+                                                       {kStart + 1, withSignal(-60, other)},
+                                                       {kStart + 3, withoutSignal(other)}}));
+    ASSERT_EQ(mixed.scans.size(), 2u);
+    EXPECT_FALSE(mixed.scans[0].recordsSignal);
+    EXPECT_EQ(mixed.scans[0].networks[0].rssiValue, -120) << "never with a signal";
+    EXPECT_EQ(mixed.scans[0].networks[1].rssiValue, -60);
+    EXPECT_TRUE(mixed.scans[1].recordsSignal);
+    EXPECT_EQ(mixed.scans[1].networks[0].rssiValue, 0) << "only this time without";
 
     const auto silent = readCapture(capture(
         kRadiotap, {{kStart, withoutSignal(kBeacon)},

@@ -22,7 +22,7 @@ CaptureReader::CaptureReader(std::unique_ptr<QIODevice> device, const QString& n
 {
     if (!open())
         return;
-    m_recordsSignal = findWhetherItRecordsSignal();
+    m_withSignal = bssidsWithSignal();
     if (!m_device->reset())
         fail(localized("the file cannot be read twice"));
     else
@@ -54,16 +54,15 @@ std::optional<CaptureReader::Sighting> CaptureReader::sighting(const CapturedPac
     return Sighting{*received, *beacon};
 }
 
-bool CaptureReader::findWhetherItRecordsSignal()
+QSet<QString> CaptureReader::bssidsWithSignal()
 {
-    bool anySighting = false;
+    QSet<QString> bssids;
     while (const auto packet = m_capture->next()) {
         const auto seen = sighting(*packet);
         if (seen && seen->received.signal)
-            return true;
-        anySighting = anySighting || seen;
+            bssids.insert(bssidText(seen->beacon));
     }
-    return !anySighting; // what holds no networks lacks no signals
+    return bssids;
 }
 
 std::optional<RecordedScan> CaptureReader::next()
@@ -115,8 +114,10 @@ void CaptureReader::advanceTo(double captureTime)
 void CaptureReader::endSweep(double number)
 {
     const double end = *m_startTime + (number + 1) * m_sweepSeconds;
-    m_due.push_back({std::clamp(end, -RecordedScan::kLatestTime, RecordedScan::kLatestTime),
-                     m_sweep.takeResults(m_recordsSignal), m_recordsSignal});
+    RecordedScan scan{std::clamp(end, -RecordedScan::kLatestTime, RecordedScan::kLatestTime),
+                      m_sweep.takeResults(m_withSignal)};
+    scan.recordsSignal = recordsSignal(scan.networks);
+    m_due.push_back(std::move(scan));
 }
 
 void CaptureReader::fail(const QString& reason)

@@ -6,8 +6,7 @@
 
 #include <deque>
 
-namespace tessara
-{
+namespace tessara {
 
 /// Reads a capture of 802.11 frames as scans. Capture time, from the first packet on, is cut into
 /// sweeps of equal length; the beacons and probe responses of a sweep are the networks of one
@@ -18,9 +17,9 @@ namespace tessara
 /// runs backwards: a packet out of order counts in the sweep at hand, and where the clock of the
 /// capture was set back by more than a minute, time goes on from the sweep at hand.
 ///
-/// A capture without any signal strength gives networks of -120 dBm and says so in its scans.
-class CaptureReader final : public ScanReader
-{
+/// A network of which the capture records no signal at all stands at -120 dBm, and its scans say
+/// so.
+class CaptureReader final : public ScanReader {
 public:
     static constexpr double kDefaultSweepSeconds = 3.0;
 
@@ -41,8 +40,8 @@ private:
 
     bool open();
     std::optional<Sighting> sighting(const CapturedPacket& packet) const;
-    /// Reads the capture to its first signal, or to its end.
-    bool findWhetherItRecordsSignal();
+    /// Reads the capture to its end.
+    QSet<QString> bssidsWithSignal();
     void advanceTo(double captureTime);
     void endSweep(double number);
     void fail(const QString& reason);
@@ -54,7 +53,7 @@ private:
 
     std::unique_ptr<CaptureFile> m_capture;
     RadioHeaderDecoder m_decodeHeader = nullptr;
-    bool m_recordsSignal = false;
+    QSet<QString> m_withSignal; ///< BSSIDs
 
     CaptureSweep m_sweep;
     std::optional<double> m_startTime; ///< of sweep 0; none before the first packet

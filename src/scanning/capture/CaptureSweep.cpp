@@ -37,6 +37,11 @@ void describe(CWNetwork& network, const BeaconFrame& beacon)
 
 } // namespace
 
+QString bssidText(const BeaconFrame& beacon)
+{
+    return QString::fromLatin1(viewOf(beacon.bssid).toByteArray().toHex(':'));
+}
+
 void CaptureSweep::add(const BeaconFrame& beacon, const ReceivedFrame& received)
 {
     const quint64 key = keyOf(beacon);
@@ -45,8 +50,7 @@ void CaptureSweep::add(const BeaconFrame& beacon, const ReceivedFrame& received)
     if (isNew) {
         position = m_positions.insert(key, m_entries.size());
         m_entries.emplace_back();
-        m_entries.back().network.bssid =
-            QString::fromLatin1(viewOf(beacon.bssid).toByteArray().toHex(':'));
+        m_entries.back().network.bssid = bssidText(beacon);
     }
     Entry& entry = m_entries[*position];
     if (isNew || beacon.isProbeResponse || !entry.isProbeResponse) {
@@ -57,7 +61,7 @@ void CaptureSweep::add(const BeaconFrame& beacon, const ReceivedFrame& received)
     entry.network.noiseMeasurement = received.noise.value_or(entry.network.noiseMeasurement);
 }
 
-ScanResults CaptureSweep::takeResults(bool recordsSignal)
+ScanResults CaptureSweep::takeResults(const QSet<QString>& withSignal)
 {
     ScanResults results;
     results.reserve(m_entries.size());
@@ -65,7 +69,7 @@ ScanResults CaptureSweep::takeResults(bool recordsSignal)
         ScanDictionary& result = results.emplace_back(entry.network.dictionary());
         if (result.channelNumber == 0)
             result.channelNumber.reset();
-        if (!recordsSignal)
+        if (!withSignal.contains(*result.bssid))
             result.rssiValue = TSDataPoint::kNoData;
     }
     m_entries.clear();

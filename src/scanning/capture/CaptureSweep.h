@@ -4,27 +4,31 @@
 #include "scanning/capture/BeaconFrame.h"
 
 #include <QHash>
+#include <QSet>
+#include <QString>
 
 #include <cstdint>
 #include <optional>
 #include <vector>
 
-namespace tessara
-{
+namespace tessara {
+
+/// The BSSID of a frame as raw scan dictionaries give it.
+QString bssidText(const BeaconFrame& beacon);
 
 /// Gathers the frames of one sweep into the results of a scan: one network for each BSSID and
 /// band, in the order of their first frames. The last reading of a signal counts. What a network
 /// says in a probe response goes before what it says in beacons, as in the scan list of a
 /// system's Wi-Fi service: a beacon may hide the name.
-class CaptureSweep
-{
+class CaptureSweep {
 public:
     void add(const BeaconFrame& beacon, const ReceivedFrame& received);
 
     /// The networks so far, and an empty sweep in their place.
-    /// @param recordsSignal whether the capture knows signals at all: what then has no reading
-    ///     gets 0, and otherwise -120, the value of a sample without data
-    ScanResults takeResults(bool recordsSignal);
+    /// @param withSignal the BSSIDs of which the capture knows signals: what has no reading now
+    /// gets
+    ///     0, and the others -120, the value of a sample without data
+    ScanResults takeResults(const QSet<QString>& withSignal);
 
 private:
     struct Entry {

@@ -128,7 +128,7 @@ RecordedInterface::RecordedInterface(const QString& path, std::vector<RecordedSc
     , m_name(shortened(scanInputTitle(path)))
     , m_surroundings(surroundings)
     , m_startTime(surroundings.clock.now())
-    , m_recordsSignal(std::ranges::any_of(scans, &RecordedScan::recordsSignal))
+    , m_recordsSignal(std::ranges::all_of(scans, &RecordedScan::recordsSignal))
 {
     m_scans.reserve(scans.size());
     double interval = kUsualInterval;

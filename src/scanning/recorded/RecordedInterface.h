@@ -62,7 +62,7 @@ public:
 
     QString scanMethod() const override;
 
-    /// False if the input knows no signal strengths: its networks are without readings.
+    /// False if the input knows no signal strength of some networks: they stand at -120 dBm.
     bool recordsSignal() const { return m_recordsSignal; }
 
 private:

@@ -112,15 +112,6 @@ std::optional<QLatin1String> readNetwork(const QJsonObject& object, ScanDictiona
     return wrongKey;
 }
 
-/// Whether the networks of a scan have signals. -120 stands for a sample without data, which no
-/// radio reports: a scan of nothing else comes from a source that knows no signals.
-bool hasSignals(const ScanResults& networks)
-{
-    return networks.empty() || !std::ranges::all_of(networks, [](const ScanDictionary& network) {
-               return network.rssiValue == TSDataPoint::kNoData;
-           });
-}
-
 } // namespace
 
 QByteArray lineOfScan(const RecordedScan& scan)
@@ -165,7 +156,7 @@ std::variant<RecordedScan, QString> scanOfObject(const QJsonObject& object)
                 .arg(i + 1)
                 .arg(*key);
     }
-    scan.recordsSignal = hasSignals(scan.networks);
+    scan.recordsSignal = recordsSignal(scan.networks);
     return scan;
 }
 

@@ -16,9 +16,13 @@ struct RecordedScan {
 
     double time = 0; ///< seconds since 1970
     ScanResults networks;
-    /// False if the input knows no signal strengths: its networks are listed all the same.
+    /// False if the input knows no signal strength of some of these networks: they stand at -120
+    /// dBm, and are listed all the same.
     bool recordsSignal = true;
 };
+
+/// Whether all networks of a scan have a signal, or might have had one (0, no reading).
+bool recordsSignal(const ScanResults& networks);
 
 /// Reads the scans of a file one by one, in the order of the file.
 class ScanReader {
