@@ -20,6 +20,7 @@ struct TSAlert {
     QString informativeText;
     QStringList buttons; ///< from the default button on
     Style style = Style::kWarning;
+    QString accessoryHtml = {}; ///< a line with links below the text; a window alone shows it
 };
 
 /// Asks the user. The window answers with sheets, the command line with lines on standard error,

@@ -1,0 +1,267 @@
+#include "shell/AppDelegate.h"
+
+#include "foundation/Defaults.h"
+#include "foundation/Localized.h"
+#include "shell/ActivityIndicator.h"
+#include "shell/TSNetworksView.h"
+
+#include <QEvent>
+
+#include <algorithm>
+
+namespace tessara
+{
+
+namespace
+{
+
+/// The sizes of text, in points, that the settings may hold.
+struct FontSizeRange {
+    QStringView key;
+    double smallest;
+    double largest;
+};
+constexpr FontSizeRange kFontSizes[] = {
+    {DefaultKey::NetworksViewFontSize, 9, 18},
+    {DefaultKey::AdvancedDetailsViewFontSize, 10, 19},
+    {DefaultKey::SideViewFontSize, 9, 18},
+};
+
+} // namespace
+
+AppDelegate::AppDelegate(WiFiService& wifi, EngineServices services)
+    : m_scanCycle(chooseInterface(wifi), services, *this, m_prompt)
+{
+    m_window.installEventFilter(this);
+    connectParts(services.notifications);
+    updateWindowTitle();
+    restoreWindowFrame();
+}
+
+void AppDelegate::connectParts(NotificationCenter& notifications)
+{
+    connect(&m_window, &MainWindow::scanRequested, &m_scanCycle, &ScanCycle::doStart);
+    connect(&m_window, &MainWindow::stopRequested, &m_scanCycle, &ScanCycle::doStop);
+
+    const TSNetworksView& table = m_window.networksView();
+    connect(&table, &TSNetworksView::sortDescriptorsDidChange, this,
+            [this] { filterAndSetNetworks(m_pipeline.networks()); });
+
+    // The service posts on threads of its own.
+    connect(&notifications, &NotificationCenter::bssidDidChange, this,
+            &AppDelegate::updateStateInfo, Qt::QueuedConnection);
+    connect(&notifications, &NotificationCenter::linkQualityDidChange, this,
+            &AppDelegate::updateStateInfo, Qt::QueuedConnection);
+    connect(&notifications, &NotificationCenter::willSleep, this, &AppDelegate::saveDefaults);
+}
+
+// Start-up --------------------------------------------------------------------------------------
+
+void AppDelegate::restoreWindowFrame()
+{
+    const Defaults& defaults = Defaults::standard();
+    if (defaults.boolForKey(DefaultKey::RanOnce))
+        m_window.restoreGeometry(defaults.value(DefaultKey::WindowFrame).toByteArray());
+    else
+        m_window.takeFirstRunFrame();
+}
+
+void AppDelegate::applicationWillFinishLaunching()
+{
+    loadDefaults();
+    m_window.networksView().restoreLayout(
+        Defaults::standard().value(DefaultKey::NetworksTable).toByteArray());
+    prepareAndReload();
+    validateScanStopItems();
+    // While scanning, the next tick shows what a setting has changed.
+    connect(&Defaults::standard(), &Defaults::didChange, this, [this] {
+        if (!m_scanCycle.isScanning())
+            configureAll();
+    });
+    showWindow();
+}
+
+void AppDelegate::loadDefaults()
+{
+    Defaults& defaults = Defaults::standard();
+    m_scanCycle.loadDefaults();
+    for (const auto& [key, smallest, largest] : kFontSizes) {
+        const double size = defaults.doubleForKey(key);
+        if (size < smallest || size > largest)
+            defaults.setValue(key, std::clamp(size, smallest, largest));
+    }
+    m_window.networksView().setFontSize(defaults.doubleForKey(DefaultKey::NetworksViewFontSize));
+}
+
+void AppDelegate::showWindow()
+{
+    updateWindowTitle();
+    updateStateInfo();
+    if (m_window.isActiveWindow())
+        return;
+    m_window.show();
+    m_window.raise();
+    m_window.activateWindow();
+    if (!m_scanCycle.currentInterface()) {
+        showNoInterfaceAlert();
+        return;
+    }
+    if (!std::exchange(m_windowDidShowFirstTime, true))
+        m_scanCycle.doAutoStart();
+    m_window.networksView().setFocus();
+}
+
+void AppDelegate::showNoInterfaceAlert()
+{
+    const TSAlert alert{
+        .messageText = localized("Unable to scan for wireless networks."),
+        .informativeText = localized("No supported Wi-Fi interfaces were found."),
+        .buttons = {localized("Quit")},
+        .style = TSAlert::Style::kCritical,
+        .accessoryHtml =
+            localized("For more information visit %1.")
+                .arg(QStringLiteral("<a href=\"%1\">%2</a>")
+                         .arg(QLatin1String(TESSARA_SUPPORT_URL), localized("Tessara Support"))),
+    };
+    m_prompt.beginAlert(alert, [this](int returnCode) {
+        if (returnCode == TSAlert::kFirstButton)
+            terminate();
+    });
+}
+
+// Shutdown --------------------------------------------------------------------------------------
+
+bool AppDelegate::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched != &m_window || event->type() != QEvent::Close)
+        return QObject::eventFilter(watched, event);
+    if (windowShouldClose())
+        windowWillClose();
+    else
+        event->ignore();
+    return true;
+}
+
+bool AppDelegate::windowShouldClose()
+{
+    return true;
+}
+
+void AppDelegate::windowWillClose()
+{
+    terminate();
+}
+
+void AppDelegate::terminate()
+{
+    if (std::exchange(m_didTerminate, true))
+        return;
+    applicationWillTerminate();
+    Q_EMIT didTerminate();
+}
+
+void AppDelegate::applicationWillTerminate()
+{
+    Defaults& defaults = Defaults::standard();
+    defaults.disconnect(this);
+    saveDefaults();
+    defaults.setValue(DefaultKey::RanOnce, true);
+    defaults.remove(DefaultKey::SignalStrengthThreshold);
+    defaults.setValue(DefaultKey::WindowFrame, m_window.saveGeometry());
+    defaults.setValue(DefaultKey::LastLaunchedVersion, QStringLiteral(TESSARA_VERSION));
+    defaults.synchronize();
+}
+
+void AppDelegate::saveDefaults()
+{
+    Defaults::standard().setValue(DefaultKey::NetworksTable, m_window.networksView().layoutState());
+}
+
+// From the scan cycle to the views --------------------------------------------------------------
+
+void AppDelegate::filterAndSetNetworks(const NetworkList& networks)
+{
+    m_pipeline.setSortDescriptors(m_window.networksView().sortDescriptors());
+    m_pipeline.setAssociation(association());
+    m_pipeline.filterAndSetNetworks(networks);
+    prepareAndReload();
+}
+
+std::optional<Association> AppDelegate::association() const
+{
+    const CWInterface* interface = m_scanCycle.currentInterface().get();
+    if (!m_scanCycle.isScanning() || !interface || !interface->isAssociated())
+        return std::nullopt;
+    const auto bssid = interface->bssid();
+    const auto band = interface->channelBand();
+    if (!bssid || !band)
+        return std::nullopt;
+    return Association{*bssid, *band, interface->ssid().value_or(QString())};
+}
+
+void AppDelegate::prepareAndReload()
+{
+    configureAll();
+}
+
+void AppDelegate::configureAll()
+{
+    configureNetworksView();
+    m_window.setLeftFooter(m_pipeline.footerText());
+    updateStateInfo();
+}
+
+void AppDelegate::configureNetworksView()
+{
+    const Defaults& defaults = Defaults::standard();
+    TSNetworksView& table = m_window.networksView();
+    table.setFontSize(defaults.doubleForKey(DefaultKey::NetworksViewFontSize));
+    table.setPlaceholderText(localized(
+        m_scanCycle.isScanning() ? "No networks yet" : "Press Scan to look for networks"));
+    table.setNetworks(m_pipeline.filteredNetworks(),
+                      {.dBm = defaults.integerForKey(DefaultKey::Units) != 0,
+                       .isScanning = m_scanCycle.isScanning()});
+}
+
+void AppDelegate::selectAssociatedNetworks()
+{
+    m_window.networksView().selectNetworks(
+        [](const TSNetwork& network) { return network.isAssociated(); });
+}
+
+void AppDelegate::updateStateInfo()
+{
+    m_window.setStateInfo(stateInfo(m_scanCycle.isScanning(), m_window.windowTitle(),
+                                    m_scanCycle.currentInterface().get()));
+}
+
+void AppDelegate::updateWindowTitle()
+{
+    const QString title = QStringView(kApplicationTitle).toString();
+    m_window.setWindowTitle(m_scanCycle.isScanning()
+                                ? QStringLiteral("%1 - %2").arg(title, localized("Scanning"))
+                                : title);
+}
+
+void AppDelegate::validateScanStopItems()
+{
+    const bool isScanning = m_scanCycle.isScanning();
+    m_window.setScanStopEnabled(!isScanning, isScanning);
+}
+
+void AppDelegate::setLeftFooterVisible(bool visible)
+{
+    m_window.setLeftFooterVisible(visible);
+}
+
+void AppDelegate::startActivityIndicator()
+{
+    m_window.activityIndicator().start();
+}
+
+void AppDelegate::stopActivityIndicator()
+{
+    m_window.activityIndicator().stop();
+}
+
+} // namespace tessara

@@ -1,0 +1,74 @@
+#pragma once
+
+#include "filtering/DisplayPipeline.h"
+#include "scanning/ScanCycle.h"
+#include "shell/MainWindow.h"
+#include "shell/SheetPrompt.h"
+
+#include <QObject>
+
+namespace tessara
+{
+
+/// The one controller of the application: builds its parts, connects them, and brings them up
+/// and down in order. What the parts do is theirs.
+class AppDelegate final : public QObject, private ScanCycleViews
+{
+    Q_OBJECT
+
+public:
+    /// Builds the window and chooses the interface; nothing is visible yet.
+    /// @param wifi where the interface comes from
+    /// @param services must outlive this, as the engines do
+    AppDelegate(WiFiService& wifi, EngineServices services);
+
+    /// Reads the settings and shows the window; the first time, scanning may start by itself.
+    void applicationWillFinishLaunching();
+    /// Ends the application without asking, as the system wants it when the session ends.
+    void terminate();
+
+    MainWindow& window() { return m_window; }
+    ScanCycle& scanCycle() { return m_scanCycle; }
+    const DisplayPipeline& pipeline() const { return m_pipeline; }
+
+Q_SIGNALS:
+    /// The window has closed and the settings are stored: the process is to end.
+    void didTerminate();
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    // The views of the scan cycle.
+    void filterAndSetNetworks(const NetworkList& networks) override;
+    void prepareAndReload() override;
+    void configureAll() override;
+    void selectAssociatedNetworks() override;
+    void updateStateInfo() override;
+    void updateWindowTitle() override;
+    void validateScanStopItems() override;
+    void setLeftFooterVisible(bool visible) override;
+    void startActivityIndicator() override;
+    void stopActivityIndicator() override;
+
+    void connectParts(NotificationCenter& notifications);
+    void loadDefaults();
+    void saveDefaults();
+    void restoreWindowFrame();
+    void showWindow();
+    void showNoInterfaceAlert();
+    void configureNetworksView();
+    bool windowShouldClose();
+    void windowWillClose();
+    void applicationWillTerminate();
+    std::optional<Association> association() const;
+
+    DisplayPipeline m_pipeline;
+    MainWindow m_window;
+    SheetPrompt m_prompt{m_window};
+    ScanCycle m_scanCycle;
+    bool m_windowDidShowFirstTime = false;
+    bool m_didTerminate = false;
+};
+
+} // namespace tessara

@@ -1,0 +1,58 @@
+#pragma once
+
+#include "scanning/StateInfo.h"
+
+#include <QMainWindow>
+
+class QLabel;
+
+namespace tessara
+{
+
+class ActivityIndicator;
+class ElidedLabel;
+class TSNetworksView;
+
+/// The main window: toolbar, menus, networks table and footer. It shows what it is given and
+/// tells what the user asks for; it decides nothing.
+class MainWindow final : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    MainWindow();
+
+    TSNetworksView& networksView() { return *m_networksView; }
+    ActivityIndicator& activityIndicator() { return *m_activityIndicator; }
+
+    /// Which of Scan and Stop makes sense now.
+    void setScanStopEnabled(bool canScan, bool canStop);
+    void setStateInfo(const StateInfo& info);
+    void setLeftFooter(const QString& text);
+    void setLeftFooterVisible(bool visible);
+    void setRightFooter(const QString& text);
+
+    /// Takes a part of the size of a fresh window, in the middle of the screen.
+    void takeFirstRunFrame();
+
+Q_SIGNALS:
+    void scanRequested();
+    void stopRequested();
+
+private:
+    void makeActions();
+    void makeToolBar();
+    void makeMenus();
+    void makeFooter();
+    void showAbout();
+
+    TSNetworksView* m_networksView;
+    QAction* m_scan = nullptr;
+    QAction* m_stop = nullptr;
+    ActivityIndicator* m_activityIndicator = nullptr;
+    ElidedLabel* m_info = nullptr;
+    ElidedLabel* m_leftFooter = nullptr;
+    QLabel* m_rightFooter = nullptr;
+};
+
+} // namespace tessara

@@ -1,0 +1,206 @@
+#include "shell/NetworkCellDelegate.h"
+
+#include "model/ColumnRegistry.h"
+#include "model/SignalPercentage.h"
+#include "model/TSNetwork.h"
+#include "shell/NetworksTableModel.h"
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QHelpEvent>
+#include <QPainter>
+#include <QToolTip>
+
+#include <algorithm>
+#include <cmath>
+
+namespace tessara
+{
+
+namespace
+{
+
+constexpr int kRowPadding = 5;      // above and below the text together
+constexpr int kLevelCellWidth = 60; // of the bar beside the text
+
+/// What a level column shows of a network, in per cent, and how.
+struct LevelColumn {
+    QStringView identifier;
+    std::int64_t (*level)(const TSNetwork&);
+    std::int64_t (*levelMax)(const TSNetwork&);
+    QRgb color;
+    float opacity;
+    // Where the track begins, behind the longest text, in points of the smallest font.
+    double indent;
+    double indentInDBm;
+};
+
+constexpr LevelColumn kLevelColumns[] = {
+    {u"RSSI", [](const TSNetwork& n) { return signalPercentage(n.rssiLast()); },
+     [](const TSNetwork& n) { return signalPercentage(n.rssiStatistic().max); }, 0xff4c9f70, 0.7F,
+     32, 26},
+    {u"NOISE", [](const TSNetwork& n) { return signalPercentage(n.noiseLast()); },
+     [](const TSNetwork& n) { return signalPercentage(n.noiseStatistic().max); }, 0xffc0605a, 0.5F,
+     32, 26},
+    {u"SNR", [](const TSNetwork& n) { return n.snrPerc(); },
+     [](const TSNetwork& n) { return n.snrPercStatistic().max; }, 0xff4a84c4, 0.5F, 40, 40},
+    {u"CHANNEL_UTILIZATION",
+     [](const TSNetwork& n) { return std::max<std::int64_t>(n.channelUtilization(), -1); },
+     [](const TSNetwork& n) {
+         return std::max<std::int64_t>(n.attributes().channelUtilizationMax, -1);
+     },
+     0xffc99a3c, 0.6F, 28, 28},
+};
+
+/// Where the track of a column's bar begins in a font, in pixels.
+double indentOf(const LevelColumn& column, bool dBm, const QFontInfo& font)
+{
+    constexpr double kSmallestFont = 9; // points
+    const double points = std::trunc(2 * (font.pointSizeF() - kSmallestFont) +
+                                     (dBm ? column.indentInDBm : column.indent));
+    return points * font.pixelSize() / font.pointSizeF();
+}
+
+/// The table has the keyboard, so that its selection stands out.
+bool hasFocus(const QStyleOptionViewItem& option)
+{
+    return option.widget && option.widget->hasFocus() &&
+           option.state.testFlag(QStyle::State_Active);
+}
+
+/// The text colour half way to the background: legible, and plainly not the normal one.
+QColor grayed(const QPalette& palette)
+{
+    const QColor text = palette.color(QPalette::Text);
+    const QColor base = palette.color(QPalette::Base);
+    return {(text.red() + base.red()) / 2, (text.green() + base.green()) / 2,
+            (text.blue() + base.blue()) / 2};
+}
+
+QColor translucent(QColor color, float opacity)
+{
+    color.setAlphaF(opacity);
+    return color;
+}
+
+QColor barColor(const LevelColumn& column, const QStyleOptionViewItem& option, bool isGrayedOut)
+{
+    const bool isSelected = option.state.testFlag(QStyle::State_Selected);
+    if (isGrayedOut) {
+        if (!isSelected)
+            return translucent(Qt::lightGray, 0.5F);
+        return translucent(hasFocus(option) ? Qt::white : Qt::darkGray, 0.3F);
+    }
+    if (!isSelected)
+        return translucent(QColor(column.color), column.opacity);
+    return hasFocus(option) ? translucent(Qt::cyan, 0.7F) : translucent(Qt::darkGray, 0.5F);
+}
+
+int textMargin(const QStyleOptionViewItem& option)
+{
+    return option.widget->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, &option,
+                                               option.widget) +
+           1;
+}
+
+const Column& columnOf(const QModelIndex& index)
+{
+    return columnRegistry()[static_cast<std::size_t>(index.column())];
+}
+
+} // namespace
+
+NetworkCellDelegate::NetworkCellDelegate(const NetworksTableModel& model, QObject* parent)
+    : QStyledItemDelegate(parent)
+    , m_model(model)
+{
+}
+
+int NetworkCellDelegate::rowHeight(const QFontMetrics& metrics)
+{
+    return metrics.height() + kRowPadding;
+}
+
+void NetworkCellDelegate::initStyleOption(QStyleOptionViewItem* option,
+                                          const QModelIndex& index) const
+{
+    QStyledItemDelegate::initStyleOption(option, index);
+    const TSNetwork& network = m_model.networkAt(index);
+    option->font.setBold(network.isAssociated());
+    option->font.setItalic(columnOf(index).identifier == QLatin1String("SSID") &&
+                           network.isHidden());
+    option->fontMetrics = QFontMetrics(option->font);
+    if (m_model.isMissing(network))
+        option->palette.setColor(QPalette::Text, grayed(option->palette));
+}
+
+void NetworkCellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                                const QModelIndex& index) const
+{
+    const Column& column = columnOf(index);
+    const TSNetwork& network = m_model.networkAt(index);
+    switch (column.cell) {
+    case CellKind::kMarker:
+        painter->fillRect(option.rect, network.color());
+        break;
+    case CellKind::kLevel: {
+        QStyleOptionViewItem styled = option;
+        initStyleOption(&styled, index);
+        paintLevelCell(*painter, styled, column, network);
+        break;
+    }
+    default:
+        QStyledItemDelegate::paint(painter, option, index);
+    }
+}
+
+void NetworkCellDelegate::paintLevelCell(QPainter& painter, QStyleOptionViewItem& option,
+                                         const Column& column, const TSNetwork& network) const
+{
+    const QString text = std::exchange(option.text, {});
+    const QStyle& style = *option.widget->style();
+    style.drawControl(QStyle::CE_ItemViewItem, &option, &painter, option.widget);
+
+    const auto* level =
+        std::ranges::find(kLevelColumns, column.identifier, &LevelColumn::identifier);
+    if (level != std::end(kLevelColumns)) {
+        paintLevelBar(painter, option.rect,
+                      {.level = level->level(network),
+                       .levelMax = level->levelMax(network),
+                       .color = barColor(*level, option, m_model.isMissing(network)),
+                       .indent = indentOf(*level, m_model.context().dBm, QFontInfo(option.font))});
+    }
+
+    const int margin = textMargin(option);
+    painter.setFont(option.font);
+    const bool isSelected = option.state.testFlag(QStyle::State_Selected);
+    style.drawItemText(&painter, option.rect.adjusted(margin, 0, -margin, 0),
+                       static_cast<int>(option.displayAlignment), option.palette, true, text,
+                       isSelected ? QPalette::HighlightedText : QPalette::Text);
+}
+
+QSize NetworkCellDelegate::sizeHint(const QStyleOptionViewItem& option,
+                                    const QModelIndex& index) const
+{
+    QStyleOptionViewItem styled = option;
+    initStyleOption(&styled, index);
+    const int bar = columnOf(index).cell == CellKind::kLevel ? kLevelCellWidth : 0;
+    return {styled.fontMetrics.horizontalAdvance(styled.text) + bar,
+            rowHeight(QFontMetrics(option.font))};
+}
+
+bool NetworkCellDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view,
+                                    const QStyleOptionViewItem& option, const QModelIndex& index)
+{
+    if (event->type() != QEvent::ToolTip || !index.isValid())
+        return QStyledItemDelegate::helpEvent(event, view, option, index);
+    QStyleOptionViewItem styled = option;
+    initStyleOption(&styled, index);
+    const int room = option.rect.width() - 2 * textMargin(styled);
+    const bool isCut = styled.fontMetrics.horizontalAdvance(styled.text) > room;
+    QToolTip::showText(event->globalPos(), isCut ? styled.text.toHtmlEscaped() : QString(), view,
+                       option.rect);
+    return true;
+}
+
+} // namespace tessara

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "shell/LevelBar.h"
+
+#include <QStyledItemDelegate>
+
+#include <optional>
+
+namespace tessara
+{
+
+class NetworksTableModel;
+class TSNetwork;
+struct Column;
+
+/// Paints the cells of the networks table: the colour marker, level bars under their texts, and
+/// texts in the colour and font that tell of the network's state.
+class NetworkCellDelegate final : public QStyledItemDelegate
+{
+    Q_OBJECT
+
+public:
+    NetworkCellDelegate(const NetworksTableModel& model, QObject* parent);
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override;
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+    /// Shows the whole text of a cell that is too narrow for it.
+    bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
+                   const QModelIndex& index) override;
+
+    /// The height of a row in the font of the table, in pixels.
+    static int rowHeight(const QFontMetrics& metrics);
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override;
+
+private:
+    void paintLevelCell(QPainter& painter, QStyleOptionViewItem& option, const Column& column,
+                        const TSNetwork& network) const;
+
+    const NetworksTableModel& m_model;
+};
+
+} // namespace tessara

@@ -1,0 +1,323 @@
+#include "shell/TSNetworksView.h"
+
+#include "foundation/Localized.h"
+#include "foundation/TextOrder.h"
+#include "shell/ColumnLayout.h"
+#include "shell/NetworkCellDelegate.h"
+
+#include <QApplication>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QPainter>
+#include <QScopedValueRollback>
+
+#include <algorithm>
+#include <cmath>
+
+namespace tessara
+{
+
+namespace
+{
+
+/// More levels would cost time at each tick and say nothing that a user still remembers.
+constexpr std::size_t kSortLevels = 3;
+constexpr int kRoomBesideContents = 17; // pixels, of a column that is fitted to its contents
+constexpr double kWidthFont = 11;       // pixels; the font that the registry's widths are meant for
+
+std::span<const Column> columns()
+{
+    return columnRegistry();
+}
+
+const Column& columnOf(int column)
+{
+    return columns()[static_cast<std::size_t>(column)];
+}
+
+int indexOf(const Column& column)
+{
+    return static_cast<int>(&column - columns().data());
+}
+
+/// The column that tells what a row is: it is always there.
+bool canBeHidden(const Column& column)
+{
+    return column.cell != CellKind::kMarker && column.identifier != QLatin1String("BSSID");
+}
+
+} // namespace
+
+TSNetworksView::TSNetworksView(QWidget* parent)
+    : QTreeView(parent)
+    , m_widths(columns().size(), 0)
+{
+    setAccessibleName(localized("Networks"));
+    setRootIsDecorated(false);
+    setItemsExpandable(false);
+    setIndentation(0);
+    setUniformRowHeights(true);
+    setAllColumnsShowFocus(true);
+    setSelectionMode(ExtendedSelection);
+    setVerticalScrollMode(ScrollPerPixel);
+    setEditTriggers(NoEditTriggers);
+    setFrameShape(QFrame::NoFrame);
+    setItemDelegate(new NetworkCellDelegate(m_model, this));
+    setModel(&m_model);
+    setUpHeader();
+    setDefaultLayout();
+}
+
+void TSNetworksView::setUpHeader()
+{
+    QHeaderView& header = *this->header();
+    header.setSectionsMovable(true);
+    header.setSectionsClickable(true);
+    header.setSortIndicatorShown(true);
+    header.setDefaultAlignment(Qt::AlignCenter);
+    header.setTextElideMode(Qt::ElideRight);
+    header.setStretchLastSection(false);
+    header.setHighlightSections(false);
+    // The marker stays at the left edge and as narrow as it is.
+    header.setFirstSectionMovable(false);
+    header.setMinimumSectionSize(static_cast<int>(columns().front().minimumWidth));
+    header.setSectionResizeMode(0, QHeaderView::Fixed);
+    header.setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(&header, &QHeaderView::customContextMenuRequested, this,
+            &TSNetworksView::showHeaderMenu);
+    connect(&header, &QHeaderView::sectionResized, this,
+            [this](int column, int, int width) { sectionDidResize(column, width); });
+    connect(&header, &QHeaderView::sortIndicatorChanged, this,
+            &TSNetworksView::sortIndicatorDidChange);
+}
+
+void TSNetworksView::setDefaultLayout()
+{
+    const double scale = QFontInfo(font()).pixelSize() / kWidthFont;
+    for (const Column& column : columns()) {
+        const int index = indexOf(column);
+        const double width = column.cell == CellKind::kMarker ? column.width : column.width * scale;
+        const int title = column.cell == CellKind::kMarker ? 0 : header()->sectionSizeHint(index);
+        header()->resizeSection(index, std::max(static_cast<int>(std::ceil(width)), title));
+        setColumnHidden(index, column.hidden);
+    }
+    m_sortDescriptors = {{columnWithIdentifier(u"SSID"), true}};
+    showSortIndicator();
+}
+
+void TSNetworksView::setNetworks(const NetworkList& networks, const CellContext& context)
+{
+    {
+        const QScopedValueRollback updating(m_isUpdating, true);
+        m_model.setNetworks(networks, context);
+        selectHighlightedNetworks();
+    }
+    if (networks.empty())
+        viewport()->update();
+}
+
+/// A network that comes back is selected as it was; rows that stayed are selected already.
+void TSNetworksView::selectHighlightedNetworks()
+{
+    QItemSelection missing;
+    for (int row = 0; row < m_model.rowCount(); ++row) {
+        const QModelIndex index = m_model.index(row, 0);
+        if (m_model.networkAt(index).isUserHighlighted() && !selectionModel()->isSelected(index))
+            missing.select(index, index);
+    }
+    if (!missing.isEmpty())
+        selectionModel()->select(missing, QItemSelectionModel::Select | QItemSelectionModel::Rows);
+}
+
+void TSNetworksView::setPlaceholderText(const QString& text)
+{
+    m_placeholderText = text;
+    viewport()->update();
+}
+
+void TSNetworksView::setFontSize(double points)
+{
+    QFont font = this->font();
+    if (font.pointSizeF() == points)
+        return;
+    font.setPointSizeF(points);
+    setFont(font);
+    scheduleDelayedItemsLayout();
+}
+
+void TSNetworksView::selectNetworks(const std::function<bool(const TSNetwork&)>& condition)
+{
+    QItemSelection selection;
+    QModelIndex first;
+    for (int row = 0; row < m_model.rowCount(); ++row) {
+        const QModelIndex index = m_model.index(row, 0);
+        if (!condition(m_model.networkAt(index)))
+            continue;
+        selection.select(index, index);
+        if (!first.isValid())
+            first = index;
+    }
+    selectionModel()->setCurrentIndex(first, QItemSelectionModel::NoUpdate);
+    selectionModel()->select(selection,
+                             QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    if (first.isValid())
+        scrollTo(first);
+}
+
+void TSNetworksView::selectionChanged(const QItemSelection& selected,
+                                      const QItemSelection& deselected)
+{
+    QTreeView::selectionChanged(selected, deselected);
+    if (m_isUpdating)
+        return;
+    for (int row = 0; row < m_model.rowCount(); ++row) {
+        m_model.networks()[static_cast<std::size_t>(row)]->setUserHighlighted(
+            selectionModel()->isSelected(m_model.index(row, 0)));
+    }
+    Q_EMIT selectionDidChange();
+}
+
+// Columns ---------------------------------------------------------------------------------------
+
+void TSNetworksView::sectionDidResize(int column, int width)
+{
+    if (width == 0)
+        return; // it was hidden
+    const int minimum = static_cast<int>(columnOf(column).minimumWidth);
+    if (width < minimum)
+        header()->resizeSection(column, minimum);
+    else
+        m_widths[static_cast<std::size_t>(column)] = width;
+}
+
+void TSNetworksView::sortIndicatorDidChange(int column, Qt::SortOrder order)
+{
+    const bool sorts = column >= 0 && columnOf(column).comparison != Comparison::kNone;
+    if (sorts) {
+        const SortDescriptor first{&columnOf(column), order == Qt::AscendingOrder};
+        std::erase_if(m_sortDescriptors,
+                      [&](const SortDescriptor& each) { return each.column == first.column; });
+        m_sortDescriptors.insert(m_sortDescriptors.begin(), first);
+        m_sortDescriptors.resize(std::min(m_sortDescriptors.size(), kSortLevels), first);
+    }
+    showSortIndicator();
+    if (sorts)
+        Q_EMIT sortDescriptorsDidChange();
+}
+
+void TSNetworksView::showSortIndicator()
+{
+    const QSignalBlocker blocker(header());
+    const SortDescriptor& first = m_sortDescriptors.front();
+    header()->setSortIndicator(indexOf(*first.column),
+                               first.ascending ? Qt::AscendingOrder : Qt::DescendingOrder);
+}
+
+int TSNetworksView::sizeHintForColumn(int column) const
+{
+    QStyleOptionViewItem option;
+    initViewItemOption(&option);
+    int widest = 0;
+    for (int row = 0; row < m_model.rowCount(); ++row)
+        widest =
+            std::max(widest, itemDelegate()->sizeHint(option, m_model.index(row, column)).width());
+    return widest + kRoomBesideContents;
+}
+
+QByteArray TSNetworksView::layoutState() const
+{
+    ColumnLayout layout{.sections = {}, .sortDescriptors = m_sortDescriptors};
+    for (int place = 0; place < header()->count(); ++place) {
+        const int column = header()->logicalIndex(place);
+        layout.sections.push_back({&columnOf(column), m_widths[static_cast<std::size_t>(column)],
+                                   isColumnHidden(column)});
+    }
+    return layout.toJson();
+}
+
+void TSNetworksView::restoreLayout(const QByteArray& state)
+{
+    setDefaultLayout();
+    const ColumnLayout layout = ColumnLayout::fromJson(state);
+    int place = 1; // behind the marker
+    for (const auto& [column, width, hidden] : layout.sections) {
+        if (column->cell == CellKind::kMarker)
+            continue;
+        const int index = indexOf(*column);
+        header()->moveSection(header()->visualIndex(index), place++);
+        setColumnHidden(index, false);
+        header()->resizeSection(index, width);
+        setColumnHidden(index, hidden && canBeHidden(*column));
+    }
+    if (!layout.sortDescriptors.empty()) {
+        m_sortDescriptors = layout.sortDescriptors;
+        showSortIndicator();
+    }
+}
+
+void TSNetworksView::addColumnItems(QMenu& menu)
+{
+    std::vector<const Column*> byTitle;
+    for (const Column& column : columns()) {
+        if (column.cell != CellKind::kMarker)
+            byTitle.push_back(&column);
+    }
+    std::ranges::sort(byTitle, [](const Column* a, const Column* b) {
+        return localizedStandardCompare(localized(a->title), localized(b->title)) < 0;
+    });
+    for (const Column* column : byTitle) {
+        const int index = indexOf(*column);
+        QAction* item = menu.addAction(localized(column->title));
+        item->setCheckable(true);
+        item->setChecked(!isColumnHidden(index));
+        item->setEnabled(canBeHidden(*column));
+        item->setToolTip(localized(column->description));
+        connect(item, &QAction::toggled, this, [this, index](bool shown) {
+            setColumnHidden(index, !shown);
+            Q_EMIT columnDidChangeHiddenState();
+        });
+    }
+}
+
+void TSNetworksView::showHeaderMenu(const QPoint& position)
+{
+    const int clicked = header()->logicalIndexAt(position);
+    QMenu menu;
+    menu.setToolTipsVisible(true);
+    QAction* autoSize = menu.addAction(localized("Auto Size Column"), this,
+                                       [this, clicked] { resizeColumnToContents(clicked); });
+    autoSize->setEnabled(clicked > 0);
+    menu.addAction(localized("Auto Size All Columns"), this, [this] {
+        for (int column = 1; column < header()->count(); ++column)
+            resizeColumnToContents(column);
+    });
+    menu.addSeparator();
+    addColumnItems(menu);
+    menu.exec(header()->mapToGlobal(position));
+}
+
+// Painting and keys -----------------------------------------------------------------------------
+
+void TSNetworksView::paintEvent(QPaintEvent* event)
+{
+    QTreeView::paintEvent(event);
+    if (m_model.rowCount() > 0)
+        return;
+    QPainter painter(viewport());
+    painter.setPen(palette().color(QPalette::PlaceholderText));
+    painter.drawText(viewport()->rect(), Qt::AlignCenter | Qt::TextWordWrap, m_placeholderText);
+}
+
+void TSNetworksView::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape && selectionModel()->hasSelection())
+        clearSelection();
+    else
+        QTreeView::keyPressEvent(event);
+}
+
+/// Typing never selects: letters belong to the filter.
+void TSNetworksView::keyboardSearch(const QString&) {}
+
+} // namespace tessara

@@ -1,0 +1,77 @@
+#pragma once
+
+#include "filtering/DisplayPipeline.h"
+#include "shell/NetworksTableModel.h"
+
+#include <QTreeView>
+
+#include <functional>
+#include <vector>
+
+class QMenu;
+
+namespace tessara
+{
+
+/// The networks table: its columns, their order, their menu, and the selection.
+///
+/// Being selected is a property of the network (`isUserHighlighted`), so that it survives a new
+/// order of the rows, and a network's leaving the list and coming back.
+class TSNetworksView final : public QTreeView
+{
+    Q_OBJECT
+
+public:
+    explicit TSNetworksView(QWidget* parent = nullptr);
+
+    void setNetworks(const NetworkList& networks, const CellContext& context);
+    /// What an empty table says.
+    void setPlaceholderText(const QString& text);
+    /// @param points size of the font of the rows
+    void setFontSize(double points);
+
+    /// Selects exactly the networks that fulfil a condition and scrolls the first into view; none
+    /// clears the selection.
+    void selectNetworks(const std::function<bool(const TSNetwork&)>& condition);
+
+    /// The order of the rows that the user has asked for: the first rules, the others break ties.
+    const std::vector<SortDescriptor>& sortDescriptors() const { return m_sortDescriptors; }
+    /// Order, widths and hidden states of the columns and the order of the rows, to be stored.
+    QByteArray layoutState() const;
+    /// Takes a stored layout; what it does not tell, or a damaged one, stays as in a fresh table.
+    void restoreLayout(const QByteArray& state);
+
+    /// Fills a menu with one checkable item a column, by title.
+    void addColumnItems(QMenu& menu);
+
+Q_SIGNALS:
+    /// The user has selected other networks.
+    void selectionDidChange();
+    void sortDescriptorsDidChange();
+    void columnDidChangeHiddenState();
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void keyboardSearch(const QString& search) override;
+    int sizeHintForColumn(int column) const override;
+    void selectionChanged(const QItemSelection& selected,
+                          const QItemSelection& deselected) override;
+
+private:
+    void setUpHeader();
+    void setDefaultLayout();
+    void sectionDidResize(int column, int width);
+    void sortIndicatorDidChange(int column, Qt::SortOrder order);
+    void showSortIndicator();
+    void showHeaderMenu(const QPoint& position);
+    void selectHighlightedNetworks();
+
+    NetworksTableModel m_model;
+    QString m_placeholderText;
+    std::vector<SortDescriptor> m_sortDescriptors;
+    std::vector<int> m_widths; ///< pixels, by column; a hidden column keeps its own
+    bool m_isUpdating = false; ///< what happens to the selection is not the user's doing
+};
+
+} // namespace tessara

@@ -1,0 +1,43 @@
+#include "foundation/Defaults.h"
+#include "scanning/ScanRuntime.h"
+#include "scanning/StateInfo.h"
+#include "scanning/SystemWiFiService.h"
+#include "shell/AppDelegate.h"
+#include "shell/QuitSignals.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+
+using namespace tessara;
+
+int main(int argc, char** argv)
+{
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("tessara"));
+    QApplication::setApplicationDisplayName(QStringView(kApplicationTitle).toString());
+    QApplication::setApplicationVersion(QStringLiteral(TESSARA_VERSION));
+    QApplication::setDesktopFileName(QStringLiteral("tessara"));
+    // The main window alone decides when the process ends.
+    QApplication::setQuitOnLastWindowClosed(false);
+
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral("A Wi-Fi network analyser."));
+    parser.addHelpOption();
+    parser.addVersionOption();
+    parser.process(application);
+
+    Defaults::standard().attach(
+        std::make_unique<QSettings>(QSettings::NativeFormat, QSettings::UserScope,
+                                    QStringLiteral("tessara"), QStringLiteral("tessara")));
+
+    const QuitSignals quitSignals;
+    ScanRuntime runtime;
+    SystemWiFiService wifi(runtime.clock(), runtime.pause(), runtime.notifications());
+    AppDelegate delegate(wifi, runtime.engineServices());
+    QObject::connect(&quitSignals, &QuitSignals::quitRequested, &delegate, &AppDelegate::terminate);
+    QObject::connect(
+        &delegate, &AppDelegate::didTerminate, &application, [] { QApplication::exit(0); },
+        Qt::QueuedConnection);
+    delegate.applicationWillFinishLaunching();
+    return QApplication::exec();
+}

@@ -1,0 +1,273 @@
+#include "shell/AppDelegate.h"
+
+#include "foundation/Defaults.h"
+#include "scanning/ScriptedInterface.h"
+#include "shell/TSNetworksView.h"
+#include "support/ManualClock.h"
+
+#include <QAction>
+#include <QHeaderView>
+#include <QMessageBox>
+#include <QSettings>
+#include <QSignalSpy>
+#include <QStatusBar>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+using namespace tessara;
+using testing::ElementsAre;
+
+namespace
+{
+
+class OneInterfaceService final : public WiFiService
+{
+public:
+    std::shared_ptr<CWInterface> interface() override { return wifi; }
+    std::shared_ptr<CWInterface> interfaceWithName(const QString&) override { return nullptr; }
+    QStringList interfaceNames() override { return {}; }
+
+    std::shared_ptr<ScriptedInterface> wifi = std::make_shared<ScriptedInterface>();
+};
+
+/// Runs what is queued, and what that queues in turn.
+void settle()
+{
+    for (int round = 0; round < 3; ++round) {
+        QCoreApplication::processEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+}
+
+/// The application with its real cycle, on time that the test moves and an engine whose thread's
+/// body the test runs.
+class AppDelegateTest : public testing::Test
+{
+protected:
+    AppDelegateTest()
+    {
+        pause.shutDown = true; // one round of the engine's loop at each run of its body
+        attachStore();
+    }
+    ~AppDelegateTest() override
+    {
+        delegate.reset();
+        Defaults::standard().attach(nullptr);
+    }
+
+    /// A new run of the program, or what a new run would read.
+    void attachStore()
+    {
+        Defaults::standard().attach(std::make_unique<QSettings>(
+            directory.filePath(QStringLiteral("tessara.conf")), QSettings::IniFormat));
+    }
+
+    void launch()
+    {
+        delegate = std::make_unique<AppDelegate>(
+            service, EngineServices{clock, pause, notifications,
+                                    [this](auto body) { bodies.push_back(std::move(body)); }});
+        delegate->applicationWillFinishLaunching();
+        settle();
+    }
+
+    void engineScans(std::vector<CWNetwork> networks)
+    {
+        service.wifi->scans = {{std::move(networks), {}}};
+        bodies.back()();
+        settle();
+    }
+
+    void tick()
+    {
+        clock.advance(ScanCycle::kMergeInterval);
+        settle();
+    }
+
+    MainWindow& window() { return delegate->window(); }
+    TSNetworksView& table() { return window().networksView(); }
+
+    QAction& action(const char* text)
+    {
+        for (QAction* each : window().findChildren<QAction*>()) {
+            if (each->text() == QLatin1String(text))
+                return *each;
+        }
+        throw std::out_of_range(text);
+    }
+
+    QList<QMessageBox*> sheets() { return window().findChildren<QMessageBox*>(); }
+
+    std::vector<std::string> names() const
+    {
+        std::vector<std::string> result;
+        for (const NetworkPtr& network : delegate->pipeline().filteredNetworks())
+            result.push_back(network->ssid().toStdString());
+        return result;
+    }
+
+    QTemporaryDir directory;
+    ManualClock clock;
+    ManualPause pause{clock};
+    NotificationCenter notifications;
+    OneInterfaceService service;
+    std::vector<std::function<void()>> bodies; ///< of the engines, the newest last
+    std::unique_ptr<AppDelegate> delegate;
+};
+
+CWNetwork named(const char* bssid, const char* ssid, int channel = 1)
+{
+    CWNetwork result = network(bssid, channel);
+    result.ssid = QString::fromLatin1(ssid);
+    return result;
+}
+
+} // namespace
+
+TEST_F(AppDelegateTest, OffersScanExactlyWhileNotScanningAndStopWhileScanning)
+{
+    launch();
+    ASSERT_TRUE(delegate->scanCycle().isScanning()) << "the scan starts by itself";
+    EXPECT_FALSE(action("Scan").isEnabled());
+    EXPECT_TRUE(action("Stop").isEnabled());
+    EXPECT_EQ(window().windowTitle(), QStringLiteral("Tessara - Scanning"));
+
+    action("Stop").trigger();
+    EXPECT_FALSE(delegate->scanCycle().isScanning());
+    EXPECT_TRUE(action("Scan").isEnabled());
+    EXPECT_FALSE(action("Stop").isEnabled());
+    EXPECT_EQ(window().windowTitle(), QStringLiteral("Tessara"));
+
+    action("Scan").trigger();
+    EXPECT_TRUE(delegate->scanCycle().isScanning());
+    EXPECT_EQ(bodies.size(), 2U);
+}
+
+TEST_F(AppDelegateTest, StaysIdleWithoutAutoScan)
+{
+    Defaults::standard().setValue(DefaultKey::AutoScan, false);
+    launch();
+    EXPECT_FALSE(delegate->scanCycle().isScanning());
+    EXPECT_TRUE(bodies.empty());
+    EXPECT_TRUE(action("Scan").isEnabled());
+}
+
+TEST_F(AppDelegateTest, ShowsWhatAScanFindsInTheOrderOfTheHeader)
+{
+    service.wifi->associatedBSSID = QStringLiteral("00:00:00:00:00:02");
+    service.wifi->associatedSSID = QStringLiteral("alpha");
+    service.wifi->channel = CWChannel{36, Band::k5GHz, ChannelWidth::k80MHz};
+    launch();
+    EXPECT_EQ(table().model()->rowCount(), 0);
+    engineScans({named("0:0:0:0:0:1", "Beta", 1), named("0:0:0:0:0:2", "alpha", 36),
+                 named("0:0:0:0:0:3", "Gamma 10", 6), named("0:0:0:0:0:4", "Gamma 9", 11)});
+    EXPECT_THAT(names(), ElementsAre("alpha", "Beta", "Gamma 9", "Gamma 10"));
+    EXPECT_EQ(table().model()->rowCount(), 4);
+
+    // The first results select the network that the machine is associated with.
+    ASSERT_EQ(table().selectionModel()->selectedRows().size(), 1);
+    EXPECT_EQ(table().currentIndex().row(), 0);
+
+    table().header()->setSortIndicator(
+        static_cast<int>(columnWithIdentifier(u"CHANNEL") - columnRegistry().data()),
+        Qt::DescendingOrder);
+    EXPECT_THAT(names(), ElementsAre("alpha", "Gamma 9", "Gamma 10", "Beta"));
+    tick();
+    EXPECT_THAT(names(), ElementsAre("alpha", "Gamma 9", "Gamma 10", "Beta"));
+}
+
+TEST_F(AppDelegateTest, AsksOnceToTurnWiFiOnAndWithdrawsTheQuestionWhenItIsOn)
+{
+    launch();
+    engineScans({named("0:0:0:0:0:1", "Beta")});
+    service.wifi->power = false;
+    for (int i = 0; i < 3; ++i)
+        tick();
+    ASSERT_EQ(sheets().size(), 1);
+    EXPECT_EQ(sheets().front()->text(), QStringLiteral("Wi-Fi is off. Do you want to turn it on?"));
+
+    service.wifi->power = true;
+    Q_EMIT notifications.powerDidChange();
+    settle();
+    EXPECT_TRUE(sheets().empty());
+    EXPECT_THAT(names(), ElementsAre("Beta")) << "the scan goes on where it was";
+}
+
+TEST_F(AppDelegateTest, TurnsWiFiOnWhenTheUserWantsIt)
+{
+    service.wifi->power = false;
+    launch();
+    bodies.back()();
+    settle();
+    ASSERT_EQ(sheets().size(), 1);
+    QTest::keyClick(sheets().front(), Qt::Key_Return);
+    settle();
+    EXPECT_TRUE(service.wifi->power);
+    EXPECT_TRUE(sheets().empty());
+    EXPECT_TRUE(delegate->scanCycle().isScanning());
+}
+
+TEST_F(AppDelegateTest, EndsWithAMessageWhereThereIsNoWiFi)
+{
+    service.wifi = nullptr;
+    launch();
+    EXPECT_FALSE(delegate->scanCycle().isScanning());
+    ASSERT_EQ(sheets().size(), 1);
+    EXPECT_EQ(sheets().front()->text(), QStringLiteral("Unable to scan for wireless networks."));
+    QSignalSpy ends(delegate.get(), &AppDelegate::didTerminate);
+    QTest::keyClick(sheets().front(), Qt::Key_Return);
+    EXPECT_EQ(ends.size(), 1);
+}
+
+TEST_F(AppDelegateTest, StoresTheSettingsOnceWhenTheWindowCloses)
+{
+    Defaults::standard().setValue(DefaultKey::SignalStrengthThreshold, -70);
+    launch();
+    window().setGeometry(40, 50, 700, 500);
+    const int vendor = static_cast<int>(columnWithIdentifier(u"VENDOR") - columnRegistry().data());
+    table().setColumnHidden(vendor, true);
+    QSignalSpy ends(delegate.get(), &AppDelegate::didTerminate);
+    window().close();
+    delegate->terminate();
+    EXPECT_EQ(ends.size(), 1);
+    EXPECT_FALSE(window().isVisible());
+
+    attachStore();
+    const Defaults& stored = Defaults::standard();
+    EXPECT_TRUE(stored.boolForKey(DefaultKey::RanOnce));
+    EXPECT_FALSE(stored.value(DefaultKey::SignalStrengthThreshold).isValid());
+    EXPECT_EQ(stored.stringForKey(DefaultKey::LastLaunchedVersion),
+              QStringLiteral(TESSARA_VERSION));
+
+    launch();
+    EXPECT_EQ(window().size(), QSize(700, 500));
+    EXPECT_TRUE(table().isColumnHidden(vendor));
+}
+
+TEST_F(AppDelegateTest, ClampsSizesOfTextForGood)
+{
+    struct Case {
+        double stored, clamped;
+    };
+    for (const Case& c : {Case{25, 18}, Case{4, 9}, Case{13, 13}}) {
+        Defaults::standard().setValue(DefaultKey::NetworksViewFontSize, c.stored);
+        launch();
+        EXPECT_EQ(Defaults::standard().doubleForKey(DefaultKey::NetworksViewFontSize), c.clamped);
+        EXPECT_EQ(table().font().pointSizeF(), c.clamped);
+        delegate.reset();
+    }
+}
+
+TEST_F(AppDelegateTest, HidesTheFooterUntilTheFirstDelivery)
+{
+    launch();
+    auto* footer = window().statusBar()->findChild<QWidget*>(QStringLiteral("LeftFooter"));
+    ASSERT_NE(footer, nullptr);
+    EXPECT_FALSE(footer->isVisible());
+    engineScans({named("0:0:0:0:0:1", "Beta"), named("0:0:0:0:0:2", "alpha")});
+    EXPECT_TRUE(footer->isVisible());
+    EXPECT_EQ(footer->accessibleName(), QStringLiteral("Networks Found: 2, Displayed: 2 (100%)"));
+}

@@ -1,0 +1,79 @@
+#include "shell/SheetPrompt.h"
+
+#include <QAbstractButton>
+#include <QMessageBox>
+#include <QTest>
+#include <QWidget>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <vector>
+
+using namespace tessara;
+using testing::ElementsAre;
+
+namespace
+{
+
+class SheetPromptTest : public testing::Test
+{
+protected:
+    SheetPromptTest() { window.show(); }
+
+    UserPrompt::AlertId begin(const QStringList& buttons)
+    {
+        return prompt.beginAlert(
+            {.messageText = QStringLiteral("Really?"),
+             .informativeText = QStringLiteral("It costs <b>nothing</b> & little else."),
+             .buttons = buttons},
+            [this](int code) { answers.push_back(code); });
+    }
+
+    QMessageBox* sheet() const { return window.findChild<QMessageBox*>(); }
+
+    QWidget window;
+    SheetPrompt prompt{window};
+    std::vector<int> answers;
+};
+
+} // namespace
+
+TEST_F(SheetPromptTest, ReportsTheButtonThatWasPressed)
+{
+    const QStringList titles{QStringLiteral("Save"), QStringLiteral("Cancel"),
+                             QStringLiteral("Don't Save")};
+    for (const QString& title : titles) {
+        begin(titles);
+        ASSERT_NE(sheet(), nullptr);
+        EXPECT_EQ(sheet()->windowModality(), Qt::WindowModal);
+        for (QAbstractButton* button : sheet()->buttons()) {
+            if (button->text() == title)
+                button->click();
+        }
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        EXPECT_EQ(sheet(), nullptr);
+    }
+    EXPECT_THAT(answers,
+                ElementsAre(TSAlert::kFirstButton, TSAlert::kSecondButton, TSAlert::kThirdButton));
+}
+
+TEST_F(SheetPromptTest, AnswersReturnWithTheFirstButtonAndEscapeWithCancel)
+{
+    begin({QStringLiteral("Turn Wi-Fi On"), QStringLiteral("Cancel")});
+    QTest::keyClick(sheet(), Qt::Key_Return);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    begin({QStringLiteral("Turn Wi-Fi On"), QStringLiteral("Cancel")});
+    QTest::keyClick(sheet(), Qt::Key_Escape);
+    EXPECT_THAT(answers, ElementsAre(TSAlert::kFirstButton, TSAlert::kSecondButton));
+}
+
+TEST_F(SheetPromptTest, TakesASheetAwayWithoutAnAnswer)
+{
+    const UserPrompt::AlertId alert = begin({QStringLiteral("OK")});
+    prompt.endAlert(alert);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(sheet(), nullptr);
+    prompt.endAlert(alert); // gone already
+    EXPECT_TRUE(answers.empty());
+}
