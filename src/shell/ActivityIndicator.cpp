@@ -7,11 +7,9 @@
 
 #include <algorithm>
 
-namespace tessara
-{
+namespace tessara {
 
-namespace
-{
+namespace {
 
 constexpr int kSpokes = 10;
 constexpr int kStepInterval = 90; // milliseconds

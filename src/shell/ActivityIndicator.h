@@ -3,12 +3,10 @@
 #include <QBasicTimer>
 #include <QWidget>
 
-namespace tessara
-{
+namespace tessara {
 
 /// A small wheel that turns while work is going on. At rest it is invisible and keeps its place.
-class ActivityIndicator final : public QWidget
-{
+class ActivityIndicator final : public QWidget {
     Q_OBJECT
 
 public:

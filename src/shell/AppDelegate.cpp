@@ -9,11 +9,9 @@
 
 #include <algorithm>
 
-namespace tessara
-{
+namespace tessara {
 
-namespace
-{
+namespace {
 
 /// The sizes of text, in points, that the settings may hold.
 struct FontSizeRange {

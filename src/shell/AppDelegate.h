@@ -7,13 +7,11 @@
 
 #include <QObject>
 
-namespace tessara
-{
+namespace tessara {
 
 /// The one controller of the application: builds its parts, connects them, and brings them up
 /// and down in order. What the parts do is theirs.
-class AppDelegate final : public QObject, private ScanCycleViews
-{
+class AppDelegate final : public QObject, private ScanCycleViews {
     Q_OBJECT
 
 public:

@@ -4,11 +4,9 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
-namespace tessara
-{
+namespace tessara {
 
-namespace
-{
+namespace {
 
 const QString kColumns = QStringLiteral("columns");
 const QString kSorting = QStringLiteral("sorting");

@@ -8,8 +8,7 @@
 #include <optional>
 #include <vector>
 
-namespace tessara
-{
+namespace tessara {
 
 /// How the user has laid out the columns of a table. Columns are told by their identifiers, so
 /// that a layout outlives a version that has more of them.

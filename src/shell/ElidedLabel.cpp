@@ -2,8 +2,7 @@
 
 #include <QPainter>
 
-namespace tessara
-{
+namespace tessara {
 
 ElidedLabel::ElidedLabel(QWidget* parent)
     : QWidget(parent)

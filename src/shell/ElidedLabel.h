@@ -2,13 +2,11 @@
 
 #include <QWidget>
 
-namespace tessara
-{
+namespace tessara {
 
 /// One line of plain text that shrinks with an ellipsis; its tool tip is the whole text while
 /// some of it is cut, unless it has one of its own.
-class ElidedLabel final : public QWidget
-{
+class ElidedLabel final : public QWidget {
     Q_OBJECT
 
 public:

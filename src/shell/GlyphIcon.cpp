@@ -9,11 +9,9 @@
 
 #include <algorithm>
 
-namespace tessara
-{
+namespace tessara {
 
-namespace
-{
+namespace {
 
 // Shapes lie in a square of this side.
 constexpr double kSide = 16;
@@ -33,8 +31,7 @@ QPainterPath shapeOf(Glyph glyph)
     return path;
 }
 
-class GlyphIconEngine final : public QIconEngine
-{
+class GlyphIconEngine final : public QIconEngine {
 public:
     explicit GlyphIconEngine(Glyph glyph)
         : m_glyph(glyph)

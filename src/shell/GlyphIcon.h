@@ -2,8 +2,7 @@
 
 #include <QIcon>
 
-namespace tessara
-{
+namespace tessara {
 
 /// The program's own icons: plain shapes, painted in the text colour of the palette in force, so
 /// that they read on light and dark desktops and at every scale.

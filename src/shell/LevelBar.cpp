@@ -4,11 +4,9 @@
 
 #include <cmath>
 
-namespace tessara
-{
+namespace tessara {
 
-namespace
-{
+namespace {
 
 constexpr double kTopMargin = 3;
 constexpr double kMargins = 7; // above and below together

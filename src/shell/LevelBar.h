@@ -7,8 +7,7 @@
 
 class QPainter;
 
-namespace tessara
-{
+namespace tessara {
 
 /// What a level bar shows: how far a level reaches along a track, and, paler, how far it once
 /// reached.

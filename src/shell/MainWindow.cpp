@@ -15,14 +15,13 @@
 #include <QStatusBar>
 #include <QToolBar>
 
-namespace tessara
-{
+namespace tessara {
 
-namespace
-{
+namespace {
 
 constexpr QSize kFreshSize(1100, 735);
 constexpr QSize kSmallestSize(560, 360);
+constexpr int kFooterMargin = 6;
 constexpr double kFirstRunWidth = 0.9;
 constexpr double kFirstRunHeight = 0.85;
 
@@ -113,6 +112,7 @@ void MainWindow::makeFooter()
     m_rightFooter = new QLabel;
     m_leftFooter->setObjectName(QStringLiteral("LeftFooter"));
     m_leftFooter->hide();
+    statusBar()->setContentsMargins(kFooterMargin, 0, 0, 0);
     statusBar()->addWidget(m_leftFooter, 1);
     statusBar()->addPermanentWidget(m_rightFooter);
 }

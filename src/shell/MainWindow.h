@@ -6,8 +6,7 @@
 
 class QLabel;
 
-namespace tessara
-{
+namespace tessara {
 
 class ActivityIndicator;
 class ElidedLabel;
@@ -15,8 +14,7 @@ class TSNetworksView;
 
 /// The main window: toolbar, menus, networks table and footer. It shows what it is given and
 /// tells what the user asks for; it decides nothing.
-class MainWindow final : public QMainWindow
-{
+class MainWindow final : public QMainWindow {
     Q_OBJECT
 
 public:

@@ -14,13 +14,12 @@
 #include <algorithm>
 #include <cmath>
 
-namespace tessara
-{
+namespace tessara {
 
-namespace
-{
+namespace {
 
 constexpr int kRowPadding = 5;      // above and below the text together
+constexpr int kCellPadding = 3;     // at the left and the right, beside the style's own
 constexpr int kLevelCellWidth = 60; // of the bar beside the text
 
 /// What a level column shows of a network, in per cent, and how.
@@ -139,44 +138,39 @@ void NetworkCellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& o
 {
     const Column& column = columnOf(index);
     const TSNetwork& network = m_model.networkAt(index);
-    switch (column.cell) {
-    case CellKind::kMarker:
+    if (column.cell == CellKind::kMarker) {
         painter->fillRect(option.rect, network.color());
-        break;
-    case CellKind::kLevel: {
-        QStyleOptionViewItem styled = option;
-        initStyleOption(&styled, index);
-        paintLevelCell(*painter, styled, column, network);
-        break;
+        return;
     }
-    default:
-        QStyledItemDelegate::paint(painter, option, index);
-    }
+    QStyleOptionViewItem cell = option;
+    initStyleOption(&cell, index);
+    const QStyle& style = *cell.widget->style();
+    style.drawPrimitive(QStyle::PE_PanelItemViewItem, &cell, painter, cell.widget);
+    if (column.cell == CellKind::kLevel)
+        paintLevel(*painter, cell, column, network);
+
+    // The text alone, over what is there.
+    if (cell.state.testFlag(QStyle::State_Selected))
+        cell.palette.setBrush(QPalette::Text, cell.palette.brush(QPalette::HighlightedText));
+    cell.state &= ~(QStyle::State_Selected | QStyle::State_MouseOver | QStyle::State_HasFocus);
+    cell.backgroundBrush = Qt::NoBrush;
+    cell.rect.adjust(kCellPadding, 0, -kCellPadding, 0);
+    style.drawControl(QStyle::CE_ItemViewItem, &cell, painter, cell.widget);
 }
 
-void NetworkCellDelegate::paintLevelCell(QPainter& painter, QStyleOptionViewItem& option,
-                                         const Column& column, const TSNetwork& network) const
+void NetworkCellDelegate::paintLevel(QPainter& painter, const QStyleOptionViewItem& cell,
+                                     const Column& column, const TSNetwork& network) const
 {
-    const QString text = std::exchange(option.text, {});
-    const QStyle& style = *option.widget->style();
-    style.drawControl(QStyle::CE_ItemViewItem, &option, &painter, option.widget);
-
     const auto* level =
         std::ranges::find(kLevelColumns, column.identifier, &LevelColumn::identifier);
-    if (level != std::end(kLevelColumns)) {
-        paintLevelBar(painter, option.rect,
-                      {.level = level->level(network),
-                       .levelMax = level->levelMax(network),
-                       .color = barColor(*level, option, m_model.isMissing(network)),
-                       .indent = indentOf(*level, m_model.context().dBm, QFontInfo(option.font))});
-    }
-
-    const int margin = textMargin(option);
-    painter.setFont(option.font);
-    const bool isSelected = option.state.testFlag(QStyle::State_Selected);
-    style.drawItemText(&painter, option.rect.adjusted(margin, 0, -margin, 0),
-                       static_cast<int>(option.displayAlignment), option.palette, true, text,
-                       isSelected ? QPalette::HighlightedText : QPalette::Text);
+    if (level == std::end(kLevelColumns))
+        return;
+    paintLevelBar(
+        painter, cell.rect,
+        {.level = level->level(network),
+         .levelMax = level->levelMax(network),
+         .color = barColor(*level, cell, m_model.isMissing(network)),
+         .indent = kCellPadding + indentOf(*level, m_model.context().dBm, QFontInfo(cell.font))});
 }
 
 QSize NetworkCellDelegate::sizeHint(const QStyleOptionViewItem& option,
@@ -185,7 +179,7 @@ QSize NetworkCellDelegate::sizeHint(const QStyleOptionViewItem& option,
     QStyleOptionViewItem styled = option;
     initStyleOption(&styled, index);
     const int bar = columnOf(index).cell == CellKind::kLevel ? kLevelCellWidth : 0;
-    return {styled.fontMetrics.horizontalAdvance(styled.text) + bar,
+    return {styled.fontMetrics.horizontalAdvance(styled.text) + 2 * kCellPadding + bar,
             rowHeight(QFontMetrics(option.font))};
 }
 
@@ -196,7 +190,7 @@ bool NetworkCellDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view,
         return QStyledItemDelegate::helpEvent(event, view, option, index);
     QStyleOptionViewItem styled = option;
     initStyleOption(&styled, index);
-    const int room = option.rect.width() - 2 * textMargin(styled);
+    const int room = option.rect.width() - 2 * (kCellPadding + textMargin(styled));
     const bool isCut = styled.fontMetrics.horizontalAdvance(styled.text) > room;
     QToolTip::showText(event->globalPos(), isCut ? styled.text.toHtmlEscaped() : QString(), view,
                        option.rect);

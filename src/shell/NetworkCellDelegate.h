@@ -6,8 +6,7 @@
 
 #include <optional>
 
-namespace tessara
-{
+namespace tessara {
 
 class NetworksTableModel;
 class TSNetwork;
@@ -15,8 +14,7 @@ struct Column;
 
 /// Paints the cells of the networks table: the colour marker, level bars under their texts, and
 /// texts in the colour and font that tell of the network's state.
-class NetworkCellDelegate final : public QStyledItemDelegate
-{
+class NetworkCellDelegate final : public QStyledItemDelegate {
     Q_OBJECT
 
 public:
@@ -36,8 +34,8 @@ protected:
     void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override;
 
 private:
-    void paintLevelCell(QPainter& painter, QStyleOptionViewItem& option, const Column& column,
-                        const TSNetwork& network) const;
+    void paintLevel(QPainter& painter, const QStyleOptionViewItem& cell, const Column& column,
+                    const TSNetwork& network) const;
 
     const NetworksTableModel& m_model;
 };

@@ -7,11 +7,9 @@
 #include <unordered_map>
 #include <vector>
 
-namespace tessara
-{
+namespace tessara {
 
-namespace
-{
+namespace {
 
 /// More steps than this cost more than one change of the whole layout.
 constexpr std::size_t kMaxSteps = 50;

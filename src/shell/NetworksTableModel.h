@@ -5,16 +5,14 @@
 
 #include <QAbstractTableModel>
 
-namespace tessara
-{
+namespace tessara {
 
 /// The rows and cell texts of the networks table: one row a network, one column an entry of the
 /// column registry, in the registry's order.
 ///
 /// A new list is not a new model: rows come, go and move, so that whatever a view keeps by row
 /// (selection, current row, scroll position) stays with the network.
-class NetworksTableModel final : public QAbstractTableModel
-{
+class NetworksTableModel final : public QAbstractTableModel {
     Q_OBJECT
 
 public:

@@ -5,11 +5,9 @@
 #include <sys/eventfd.h>
 #include <unistd.h>
 
-namespace tessara
-{
+namespace tessara {
 
-namespace
-{
+namespace {
 
 constexpr std::initializer_list<int> kSignals = {SIGINT, SIGTERM, SIGHUP};
 

@@ -5,11 +5,9 @@
 #include <QMessageBox>
 #include <QPushButton>
 
-namespace tessara
-{
+namespace tessara {
 
-namespace
-{
+namespace {
 
 QMessageBox::Icon iconFor(TSAlert::Style style)
 {

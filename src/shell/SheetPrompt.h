@@ -9,13 +9,11 @@
 class QMessageBox;
 class QWidget;
 
-namespace tessara
-{
+namespace tessara {
 
 /// Asks the user with sheets: message boxes that block their window alone and let everything
 /// else, the scan included, go on.
-class SheetPrompt final : public QObject, public UserPrompt
-{
+class SheetPrompt final : public QObject, public UserPrompt {
     Q_OBJECT
 
 public:

@@ -15,16 +15,16 @@
 #include <algorithm>
 #include <cmath>
 
-namespace tessara
-{
+namespace tessara {
 
-namespace
-{
+namespace {
 
 /// More levels would cost time at each tick and say nothing that a user still remembers.
 constexpr std::size_t kSortLevels = 3;
 constexpr int kRoomBesideContents = 17; // pixels, of a column that is fitted to its contents
-constexpr double kWidthFont = 11;       // pixels; the font that the registry's widths are meant for
+// The registry's widths are meant for a font of this size in pixels.
+constexpr double kWidthFont = 13;
+constexpr double kDefaultWidth = 70; // of a column that the registry leaves to the table
 
 std::span<const Column> columns()
 {
@@ -94,16 +94,23 @@ void TSNetworksView::setUpHeader()
 
 void TSNetworksView::setDefaultLayout()
 {
-    const double scale = QFontInfo(font()).pixelSize() / kWidthFont;
     for (const Column& column : columns()) {
         const int index = indexOf(column);
-        const double width = column.cell == CellKind::kMarker ? column.width : column.width * scale;
-        const int title = column.cell == CellKind::kMarker ? 0 : header()->sectionSizeHint(index);
-        header()->resizeSection(index, std::max(static_cast<int>(std::ceil(width)), title));
+        header()->resizeSection(index, defaultWidth(column));
         setColumnHidden(index, column.hidden);
     }
     m_sortDescriptors = {{columnWithIdentifier(u"SSID"), true}};
     showSortIndicator();
+}
+
+/// In pixels: as the registry says, but wide enough for the title.
+int TSNetworksView::defaultWidth(const Column& column) const
+{
+    if (column.cell == CellKind::kMarker)
+        return static_cast<int>(column.width);
+    const double scale = QFontInfo(font()).pixelSize() / kWidthFont;
+    const double width = scale * (column.width > 0 ? column.width : kDefaultWidth);
+    return std::max(static_cast<int>(std::ceil(width)), header()->sectionSizeHint(indexOf(column)));
 }
 
 void TSNetworksView::setNetworks(const NetworkList& networks, const CellContext& context)
@@ -307,6 +314,20 @@ void TSNetworksView::paintEvent(QPaintEvent* event)
     QPainter painter(viewport());
     painter.setPen(palette().color(QPalette::PlaceholderText));
     painter.drawText(viewport()->rect(), Qt::AlignCenter | Qt::TextWordWrap, m_placeholderText);
+}
+
+/// Carries the selection on to the right edge, where there are no columns.
+void TSNetworksView::drawRow(QPainter* painter, const QStyleOptionViewItem& option,
+                             const QModelIndex& index) const
+{
+    QTreeView::drawRow(painter, option, index);
+    QStyleOptionViewItem rest = option;
+    rest.rect.setLeft(header()->length() - header()->offset());
+    if (rest.rect.isEmpty() || !selectionModel()->isSelected(index))
+        return;
+    rest.state |= QStyle::State_Selected;
+    rest.viewItemPosition = QStyleOptionViewItem::Middle;
+    style()->drawPrimitive(QStyle::PE_PanelItemViewItem, &rest, painter, this);
 }
 
 void TSNetworksView::keyPressEvent(QKeyEvent* event)

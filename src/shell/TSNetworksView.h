@@ -10,15 +10,13 @@
 
 class QMenu;
 
-namespace tessara
-{
+namespace tessara {
 
 /// The networks table: its columns, their order, their menu, and the selection.
 ///
 /// Being selected is a property of the network (`isUserHighlighted`), so that it survives a new
 /// order of the rows, and a network's leaving the list and coming back.
-class TSNetworksView final : public QTreeView
-{
+class TSNetworksView final : public QTreeView {
     Q_OBJECT
 
 public:
@@ -52,6 +50,8 @@ Q_SIGNALS:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void drawRow(QPainter* painter, const QStyleOptionViewItem& option,
+                 const QModelIndex& index) const override;
     void keyPressEvent(QKeyEvent* event) override;
     void keyboardSearch(const QString& search) override;
     int sizeHintForColumn(int column) const override;
@@ -61,6 +61,7 @@ protected:
 private:
     void setUpHeader();
     void setDefaultLayout();
+    int defaultWidth(const Column& column) const;
     void sectionDidResize(int column, int width);
     void sortIndicatorDidChange(int column, Qt::SortOrder order);
     void showSortIndicator();

@@ -20,11 +20,9 @@
 using namespace tessara;
 using testing::ElementsAre;
 
-namespace
-{
+namespace {
 
-class OneInterfaceService final : public WiFiService
-{
+class OneInterfaceService final : public WiFiService {
 public:
     std::shared_ptr<CWInterface> interface() override { return wifi; }
     std::shared_ptr<CWInterface> interfaceWithName(const QString&) override { return nullptr; }
@@ -44,8 +42,7 @@ void settle()
 
 /// The application with its real cycle, on time that the test moves and an engine whose thread's
 /// body the test runs.
-class AppDelegateTest : public testing::Test
-{
+class AppDelegateTest : public testing::Test {
 protected:
     AppDelegateTest()
     {

@@ -7,8 +7,7 @@
 
 using namespace tessara;
 
-namespace
-{
+namespace {
 
 constexpr QRectF kCell(100, 50, 135, 22);
 constexpr double kIndent = 30; // so that the track is 100 wide: one pixel a per cent

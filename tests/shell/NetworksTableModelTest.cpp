@@ -13,12 +13,10 @@
 
 using namespace tessara;
 
-namespace
-{
+namespace {
 
 /// Keeps a second list of the rows from nothing but what the model tells its views.
-class FollowingList
-{
+class FollowingList {
 public:
     explicit FollowingList(NetworksTableModel& model)
         : m_model(model)
@@ -83,9 +81,9 @@ TEST(NetworksTableModel, FollowsAnySequenceOfListsStepByStep)
     const Case cases[] = {
         {"few changes in a short list", 12, 0.9, 1, 300},
         {"any change of a short list", 12, 0.5, -1, 300},
-        {"a tick of a long list", 400, 0.99, 5, 40},
-        {"a new order of a long list", 400, 1, -1, 20},
-        {"everything about a long list", 400, 0.5, -1, 20},
+        {"a tick of a long list", 400, 0.99, 5, 15},
+        {"a new order of a long list", 400, 1, -1, 8},
+        {"everything about a long list", 400, 0.5, -1, 8},
     };
     std::mt19937 random(7);
     for (const Case& c : cases) {

@@ -13,11 +13,9 @@
 using namespace tessara;
 using testing::ElementsAre;
 
-namespace
-{
+namespace {
 
-class SheetPromptTest : public testing::Test
-{
+class SheetPromptTest : public testing::Test {
 protected:
     SheetPromptTest() { window.show(); }
 

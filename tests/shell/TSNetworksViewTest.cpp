@@ -17,16 +17,14 @@
 using namespace tessara;
 using testing::ElementsAre;
 
-namespace
-{
+namespace {
 
 int columnNumber(QStringView identifier)
 {
     return static_cast<int>(columnWithIdentifier(identifier) - columnRegistry().data());
 }
 
-class NetworksViewTest : public testing::Test
-{
+class NetworksViewTest : public testing::Test {
 protected:
     NetworksViewTest()
     {

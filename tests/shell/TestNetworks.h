@@ -2,8 +2,7 @@
 
 #include "model/TSNetwork.h"
 
-namespace tessara
-{
+namespace tessara {
 
 /// A record of a network that was seen once, at time 0, with a BSSID and a name made of a number.
 inline NetworkPtr testNetwork(int number, std::int64_t rssi = -60)
