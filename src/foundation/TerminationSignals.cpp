@@ -6,11 +6,9 @@
 #include <sys/signalfd.h>
 #include <unistd.h>
 
-namespace tessara
-{
+namespace tessara {
 
-namespace
-{
+namespace {
 
 sigset_t terminationSignals()
 {
@@ -23,11 +21,17 @@ sigset_t terminationSignals()
 
 } // namespace
 
+void TerminationSignals::block()
+{
+    const sigset_t set = terminationSignals();
+    ::pthread_sigmask(SIG_BLOCK, &set, nullptr);
+}
+
 TerminationSignals::TerminationSignals(std::function<void()> onSignal)
 {
     // Blocked here, and in the threads that are started from now on: read from the descriptor.
+    block();
     const sigset_t set = terminationSignals();
-    ::pthread_sigmask(SIG_BLOCK, &set, nullptr);
     const int descriptor = ::signalfd(-1, &set, SFD_CLOEXEC | SFD_NONBLOCK);
     m_notifier = std::make_unique<QSocketNotifier>(descriptor, QSocketNotifier::Read);
     QObject::connect(m_notifier.get(), &QSocketNotifier::activated,

@@ -14,6 +14,10 @@ namespace tessara
 class TerminationSignals
 {
 public:
+    /// Holds the signals back from this thread and those that it starts: for a main() whose
+    /// application object starts threads, before there can be an object of this class.
+    static void block();
+
     explicit TerminationSignals(std::function<void()> onSignal);
     ~TerminationSignals();
     TerminationSignals(const TerminationSignals&) = delete;

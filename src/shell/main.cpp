@@ -1,9 +1,9 @@
 #include "foundation/Defaults.h"
+#include "foundation/TerminationSignals.h"
 #include "scanning/ScanRuntime.h"
 #include "scanning/StateInfo.h"
 #include "scanning/SystemWiFiService.h"
 #include "shell/AppDelegate.h"
-#include "shell/QuitSignals.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -12,7 +12,9 @@ using namespace tessara;
 
 int main(int argc, char** argv)
 {
+    TerminationSignals::block(); // the application object starts threads
     QApplication application(argc, argv);
+    QApplication::setOrganizationName(QStringLiteral("Tessara"));
     QApplication::setApplicationName(QStringLiteral("tessara"));
     QApplication::setApplicationDisplayName(QStringView(kApplicationTitle).toString());
     QApplication::setApplicationVersion(QStringLiteral(TESSARA_VERSION));
@@ -26,15 +28,11 @@ int main(int argc, char** argv)
     parser.addVersionOption();
     parser.process(application);
 
-    Defaults::standard().attach(
-        std::make_unique<QSettings>(QSettings::NativeFormat, QSettings::UserScope,
-                                    QStringLiteral("tessara"), QStringLiteral("tessara")));
-
-    const QuitSignals quitSignals;
+    Defaults::standard().attach(std::make_unique<QSettings>());
     ScanRuntime runtime;
     SystemWiFiService wifi(runtime.clock(), runtime.pause(), runtime.notifications());
     AppDelegate delegate(wifi, runtime.engineServices());
-    QObject::connect(&quitSignals, &QuitSignals::quitRequested, &delegate, &AppDelegate::terminate);
+    const TerminationSignals signalsOfTheUser([&delegate] { delegate.terminate(); });
     QObject::connect(
         &delegate, &AppDelegate::didTerminate, &application, [] { QApplication::exit(0); },
         Qt::QueuedConnection);
