@@ -111,7 +111,7 @@ std::vector<Column> makeRegistry()
          [](const TSNetwork&, const CellContext&) { return QString(); }},
         {QStringLiteral("BSSID"), "BSSID",
          "The address of the access point's radio, the identifier of the basic service set.",
-         kShown, 152, kMinimumWidth, kStandard, kText, kLeft, TEXT_OF(n.bssid())},
+         kShown, 172, kMinimumWidth, kStandard, kText, kLeft, TEXT_OF(n.bssid())},
         {QStringLiteral("SSID"), "Network Name",
          "The name that the network announces (SSID). A padlock marks a protected network.", kShown,
          160, kMinimumWidth, kStandard, kTextAndImage, kLeft, TEXT_OF(n.ssid())},

@@ -11,8 +11,10 @@ namespace tessara {
 
 namespace {
 
-/// More steps than this cost more than one change of the whole layout.
+// More steps than this cost more than one change of the whole layout, and each costs the more
+// the more indexes the views hold: a selection of many rows.
 constexpr std::size_t kMaxSteps = 50;
+constexpr std::size_t kMaxIndexesInSteps = 5000;
 
 constexpr int kGone = -1;
 
@@ -112,7 +114,8 @@ void NetworksTableModel::setNetworks(const NetworkList& networks, const CellCont
     m_context = context;
     if (networks != m_networks) {
         const Changes changes(m_networks, networks);
-        if (changes.steps() <= kMaxSteps) {
+        const auto indexes = static_cast<std::size_t>(persistentIndexList().size());
+        if (changes.steps() <= kMaxSteps && changes.steps() * indexes <= kMaxIndexesInSteps) {
             removeRuns(changes);
             moveRows(changes, networks);
             insertRuns(changes, networks);

@@ -22,8 +22,8 @@ namespace {
 /// More levels would cost time at each tick and say nothing that a user still remembers.
 constexpr std::size_t kSortLevels = 3;
 constexpr int kRoomBesideContents = 17; // pixels, of a column that is fitted to its contents
-// The registry's widths are meant for a font of this size in pixels.
-constexpr double kWidthFont = 13;
+// The registry's widths are meant for a font of this size in points.
+constexpr double kWidthFont = 11;
 constexpr double kDefaultWidth = 70; // of a column that the registry leaves to the table
 
 std::span<const Column> columns()
@@ -108,7 +108,7 @@ int TSNetworksView::defaultWidth(const Column& column) const
 {
     if (column.cell == CellKind::kMarker)
         return static_cast<int>(column.width);
-    const double scale = QFontInfo(font()).pixelSize() / kWidthFont;
+    const double scale = QFontInfo(font()).pointSizeF() / kWidthFont;
     const double width = scale * (column.width > 0 ? column.width : kDefaultWidth);
     return std::max(static_cast<int>(std::ceil(width)), header()->sectionSizeHint(indexOf(column)));
 }
@@ -124,14 +124,25 @@ void TSNetworksView::setNetworks(const NetworkList& networks, const CellContext&
         viewport()->update();
 }
 
+/// Which rows are selected. Asked row by row, many selected rows would take time in its square.
+std::vector<bool> TSNetworksView::selectedRows() const
+{
+    std::vector<bool> rows(m_model.networks().size(), false);
+    for (const QItemSelectionRange& range : selectionModel()->selection())
+        std::fill(rows.begin() + range.top(), rows.begin() + range.bottom() + 1, true);
+    return rows;
+}
+
 /// A network that comes back is selected as it was; rows that stayed are selected already.
 void TSNetworksView::selectHighlightedNetworks()
 {
+    const std::vector<bool> isSelected = selectedRows();
     QItemSelection missing;
-    for (int row = 0; row < m_model.rowCount(); ++row) {
-        const QModelIndex index = m_model.index(row, 0);
-        if (m_model.networkAt(index).isUserHighlighted() && !selectionModel()->isSelected(index))
-            missing.select(index, index);
+    for (std::size_t row = 0; row < isSelected.size(); ++row) {
+        if (isSelected[row] || !m_model.networks()[row]->isUserHighlighted())
+            continue;
+        const QModelIndex index = m_model.index(static_cast<int>(row), 0);
+        missing.select(index, index);
     }
     if (!missing.isEmpty())
         selectionModel()->select(missing, QItemSelectionModel::Select | QItemSelectionModel::Rows);
@@ -178,10 +189,9 @@ void TSNetworksView::selectionChanged(const QItemSelection& selected,
     QTreeView::selectionChanged(selected, deselected);
     if (m_isUpdating)
         return;
-    for (int row = 0; row < m_model.rowCount(); ++row) {
-        m_model.networks()[static_cast<std::size_t>(row)]->setUserHighlighted(
-            selectionModel()->isSelected(m_model.index(row, 0)));
-    }
+    const std::vector<bool> isSelected = selectedRows();
+    for (std::size_t row = 0; row < isSelected.size(); ++row)
+        m_model.networks()[row]->setUserHighlighted(isSelected[row]);
     Q_EMIT selectionDidChange();
 }
 

@@ -66,6 +66,7 @@ private:
     void sortIndicatorDidChange(int column, Qt::SortOrder order);
     void showSortIndicator();
     void showHeaderMenu(const QPoint& position);
+    std::vector<bool> selectedRows() const;
     void selectHighlightedNetworks();
 
     NetworksTableModel m_model;

@@ -106,6 +106,24 @@ TEST_F(NetworksViewTest, KeepsSelectionCurrentRowAndScrollPositionAcrossTicksAnd
     EXPECT_EQ(selections.size(), 0) << "the user has selected nothing";
 }
 
+TEST_F(NetworksViewTest, KeepsALargeScatteredSelectionThroughAnyChange)
+{
+    NetworkList chosen;
+    for (std::size_t row = 0; row < networks.size(); row += 2) {
+        networks[row]->setUserHighlighted(true);
+        chosen.push_back(networks[row]);
+    }
+    std::mt19937 random(5);
+    for (int change = 0; change < 10; ++change) {
+        if (change % 3 == 2)
+            std::ranges::shuffle(networks, random);
+        else
+            std::swap(networks[20], networks[170]);
+        show(networks);
+        ASSERT_THAT(selected(), testing::UnorderedElementsAreArray(chosen));
+    }
+}
+
 TEST_F(NetworksViewTest, SelectsANetworkAgainThatLeavesTheListAndComesBack)
 {
     show(networks);
