@@ -19,7 +19,7 @@ struct FontSizeRange {
     double smallest;
     double largest;
 };
-constexpr FontSizeRange kFontSizes[] = {
+const FontSizeRange kFontSizes[] = {
     {DefaultKey::NetworksViewFontSize, 9, 18},
     {DefaultKey::AdvancedDetailsViewFontSize, 10, 19},
     {DefaultKey::SideViewFontSize, 9, 18},

@@ -29,35 +29,44 @@ struct LevelColumn {
     std::int64_t (*levelMax)(const TSNetwork&);
     QRgb color;
     float opacity;
-    // Where the track begins, behind the longest text, in points of the smallest font.
+    // Where the track begins at the least, in points of the smallest font, and the longest text
+    // that it is to leave room for.
     double indent;
     double indentInDBm;
+    const char* longestText;
 };
 
-constexpr LevelColumn kLevelColumns[] = {
+const LevelColumn kLevelColumns[] = {
     {u"RSSI", [](const TSNetwork& n) { return signalPercentage(n.rssiLast()); },
      [](const TSNetwork& n) { return signalPercentage(n.rssiStatistic().max); }, 0xff4c9f70, 0.7F,
-     32, 26},
+     32, 26, "100%"},
     {u"NOISE", [](const TSNetwork& n) { return signalPercentage(n.noiseLast()); },
      [](const TSNetwork& n) { return signalPercentage(n.noiseStatistic().max); }, 0xffc0605a, 0.5F,
-     32, 26},
+     32, 26, "100%"},
     {u"SNR", [](const TSNetwork& n) { return n.snrPerc(); },
-     [](const TSNetwork& n) { return n.snrPercStatistic().max; }, 0xff4a84c4, 0.5F, 40, 40},
+     [](const TSNetwork& n) { return n.snrPercStatistic().max; }, 0xff4a84c4, 0.5F, 40, 40,
+     "-60 dB"},
     {u"CHANNEL_UTILIZATION",
      [](const TSNetwork& n) { return std::max<std::int64_t>(n.channelUtilization(), -1); },
      [](const TSNetwork& n) {
          return std::max<std::int64_t>(n.attributes().channelUtilizationMax, -1);
      },
-     0xffc99a3c, 0.6F, 28, 28},
+     0xffc99a3c, 0.6F, 28, 28, "100%"},
 };
 
-/// Where the track of a column's bar begins in a font, in pixels.
-double indentOf(const LevelColumn& column, bool dBm, const QFontInfo& font)
+/// Where the track of a column's bar begins, in pixels: the same in all rows, bold or not.
+double indentOf(const LevelColumn& column, bool dBm, const QFont& font)
 {
     constexpr double kSmallestFont = 9; // points
-    const double points = std::trunc(2 * (font.pointSizeF() - kSmallestFont) +
+    constexpr double kGap = 6;          // pixels between text and bar
+    const QFontInfo info(font);
+    const double points = std::trunc(2 * (info.pointSizeF() - kSmallestFont) +
                                      (dBm ? column.indentInDBm : column.indent));
-    return points * font.pixelSize() / font.pointSizeF();
+    QFont bold = font;
+    bold.setBold(true);
+    const double text =
+        QFontMetricsF(bold).horizontalAdvance(QLatin1String(column.longestText)) + kGap;
+    return std::max(points * info.pixelSize() / info.pointSizeF(), text);
 }
 
 /// The table has the keyboard, so that its selection stands out.
@@ -165,12 +174,11 @@ void NetworkCellDelegate::paintLevel(QPainter& painter, const QStyleOptionViewIt
         std::ranges::find(kLevelColumns, column.identifier, &LevelColumn::identifier);
     if (level == std::end(kLevelColumns))
         return;
-    paintLevelBar(
-        painter, cell.rect,
-        {.level = level->level(network),
-         .levelMax = level->levelMax(network),
-         .color = barColor(*level, cell, m_model.isMissing(network)),
-         .indent = kCellPadding + indentOf(*level, m_model.context().dBm, QFontInfo(cell.font))});
+    paintLevelBar(painter, cell.rect,
+                  {.level = level->level(network),
+                   .levelMax = level->levelMax(network),
+                   .color = barColor(*level, cell, m_model.isMissing(network)),
+                   .indent = kCellPadding + indentOf(*level, m_model.context().dBm, cell.font)});
 }
 
 QSize NetworkCellDelegate::sizeHint(const QStyleOptionViewItem& option,

@@ -24,7 +24,7 @@ constexpr std::size_t kSortLevels = 3;
 constexpr int kRoomBesideContents = 17; // pixels, of a column that is fitted to its contents
 // The registry's widths are meant for a font of this size in points.
 constexpr double kWidthFont = 11;
-constexpr double kDefaultWidth = 70; // of a column that the registry leaves to the table
+constexpr double kDefaultWidth = 80; // of a column that the registry leaves to the table
 
 std::span<const Column> columns()
 {
@@ -342,13 +342,15 @@ void TSNetworksView::drawRow(QPainter* painter, const QStyleOptionViewItem& opti
 
 void TSNetworksView::keyPressEvent(QKeyEvent* event)
 {
-    if (event->key() == Qt::Key_Escape && selectionModel()->hasSelection())
+    const QString text = event->text();
+    const bool isTyping = !text.isEmpty() && text.front().isPrint() &&
+                          !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier));
+    if (isTyping)
+        event->ignore(); // it never selects, not even by the space bar
+    else if (event->key() == Qt::Key_Escape && selectionModel()->hasSelection())
         clearSelection();
     else
         QTreeView::keyPressEvent(event);
 }
-
-/// Typing never selects: letters belong to the filter.
-void TSNetworksView::keyboardSearch(const QString&) {}
 
 } // namespace tessara

@@ -53,7 +53,6 @@ protected:
     void drawRow(QPainter* painter, const QStyleOptionViewItem& option,
                  const QModelIndex& index) const override;
     void keyPressEvent(QKeyEvent* event) override;
-    void keyboardSearch(const QString& search) override;
     int sizeHintForColumn(int column) const override;
     void selectionChanged(const QItemSelection& selected,
                           const QItemSelection& deselected) override;

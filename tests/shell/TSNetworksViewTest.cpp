@@ -154,6 +154,8 @@ TEST_F(NetworksViewTest, MovesByArrowsClearsByEscapeAndIgnoresLetters)
     QTest::keyClick(&view, Qt::Key_Escape);
     EXPECT_TRUE(selected().empty());
     EXPECT_FALSE(networks[1]->isUserHighlighted());
+    QTest::keyClick(&view, Qt::Key_Space);
+    EXPECT_TRUE(selected().empty());
 }
 
 TEST_F(NetworksViewTest, SelectsTheNetworksOfAConditionAndScrollsToTheFirst)
