@@ -8,8 +8,7 @@
 #include <cstdlib>
 #include <memory>
 
-namespace tessara
-{
+namespace tessara {
 
 /// The fuzzer's bytes in the place of a file. They are not copied.
 inline std::unique_ptr<QIODevice> deviceOf(const std::uint8_t* data, std::size_t size)

@@ -6,8 +6,7 @@
 
 using namespace tessara;
 
-namespace
-{
+namespace {
 
 TSNetwork freshNetwork()
 {

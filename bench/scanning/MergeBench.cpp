@@ -4,8 +4,7 @@
 
 using namespace tessara;
 
-namespace
-{
+namespace {
 
 /// As many networks as asked for, each with a beacon's worth of element bytes.
 ScanResults results(std::int64_t count)

@@ -1,5 +1,5 @@
 #include "cli/Command.h"
-#include "cli/SettingsOptions.h"
+#include "foundation/SettingsOptions.h"
 
 #include <QCoreApplication>
 #include <QTextStream>

@@ -4,8 +4,7 @@
 
 #include <algorithm>
 
-namespace tessara
-{
+namespace tessara {
 
 std::optional<ElementView> ElementRun::find(std::uint8_t id) const
 {

@@ -7,12 +7,10 @@
 #include <iterator>
 #include <optional>
 
-namespace tessara
-{
+namespace tessara {
 
 /// Element identifiers (IEEE Std 802.11-2020, table 9-92) that more than one file reads.
-namespace ElementID
-{
+namespace ElementID {
 inline constexpr std::uint8_t kSSID = 0;
 inline constexpr std::uint8_t kDSParameterSet = 3;
 inline constexpr std::uint8_t kRSN = 48;
@@ -29,8 +27,7 @@ struct ElementView {
 /// A run of elements as a beacon carries it (IEEE Std 802.11-2020, 9.4.2.1): identifier byte,
 /// length byte, content. Walks without copying; an element that runs past the end of the bytes
 /// ends the walk and is not given.
-class ElementRun
-{
+class ElementRun {
 public:
     explicit ElementRun(Bytes bytes)
         : m_bytes(bytes)
@@ -43,8 +40,7 @@ public:
     {
     }
 
-    class Iterator
-    {
+    class Iterator {
     public:
         using value_type = ElementView;
         using difference_type = std::ptrdiff_t;

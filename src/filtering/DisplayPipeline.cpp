@@ -5,8 +5,7 @@
 #include <algorithm>
 #include <numeric>
 
-namespace tessara
-{
+namespace tessara {
 
 void DisplayPipeline::setSortDescriptors(std::vector<SortDescriptor> descriptors)
 {

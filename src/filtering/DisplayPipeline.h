@@ -9,8 +9,7 @@
 #include <optional>
 #include <vector>
 
-namespace tessara
-{
+namespace tessara {
 
 /// One level of the order of the list.
 struct SortDescriptor {
@@ -26,8 +25,7 @@ struct Association {
 };
 
 /// From everything that is known to the rows on screen: marks the associated network and sorts.
-class DisplayPipeline
-{
+class DisplayPipeline {
 public:
     /// The order of the rows: the first descriptor rules, the others break its ties.
     void setSortDescriptors(std::vector<SortDescriptor> descriptors);

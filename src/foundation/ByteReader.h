@@ -6,15 +6,13 @@
 #include <optional>
 #include <span>
 
-namespace tessara
-{
+namespace tessara {
 
 using Bytes = std::span<const std::uint8_t>;
 
 /// Reads numbers out of bytes from the air. It knows where the bytes end and never throws: what
 /// lies beyond the end is zero for the `…OrZero` reads and absent for the others.
-class ByteReader
-{
+class ByteReader {
 public:
     constexpr explicit ByteReader(Bytes bytes)
         : m_bytes(bytes)

@@ -8,14 +8,11 @@
 #include <condition_variable>
 #include <mutex>
 
-namespace tessara
-{
+namespace tessara {
 
-namespace
-{
+namespace {
 
-class EventLoopTimer final : public RepeatingTimer
-{
+class EventLoopTimer final : public RepeatingTimer {
 public:
     EventLoopTimer(double interval, std::function<void()> action)
     {

@@ -4,19 +4,16 @@
 #include <memory>
 #include <stop_token>
 
-namespace tessara
-{
+namespace tessara {
 
 /// Fires until it is destroyed.
-class RepeatingTimer
-{
+class RepeatingTimer {
 public:
     virtual ~RepeatingTimer() = default;
 };
 
 /// Time as the program sees it. Everything asks a Clock, so that tests move time by hand.
-class Clock
-{
+class Clock {
 public:
     virtual ~Clock() = default;
 
@@ -30,16 +27,14 @@ public:
 };
 
 /// The machine's clock and the event loop's timers.
-class SystemClock final : public Clock
-{
+class SystemClock final : public Clock {
 public:
     double now() const override;
     std::unique_ptr<RepeatingTimer> repeat(double interval, std::function<void()> action) override;
 };
 
 /// Sleeping, for threads that have nothing better to do. Safe to use from several threads.
-class Pause
-{
+class Pause {
 public:
     virtual ~Pause() = default;
 
@@ -49,8 +44,7 @@ public:
 };
 
 /// Sleeps for real, until a stop is requested through the token.
-class SystemPause final : public Pause
-{
+class SystemPause final : public Pause {
 public:
     explicit SystemPause(std::stop_token shutdown);
     bool sleep(double seconds) override;

@@ -2,11 +2,9 @@
 
 #include <cmath>
 
-namespace tessara
-{
+namespace tessara {
 
-namespace
-{
+namespace {
 
 /// Text of the user as a value of the type, or an invalid one.
 QVariant parsed(const QString& text, QMetaType::Type type)

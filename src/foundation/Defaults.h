@@ -8,15 +8,13 @@
 
 #include <memory>
 
-namespace tessara
-{
+namespace tessara {
 
 /// The user's settings: values for this run, over the stored ones, over the registered defaults.
 /// Belongs to the main thread.
 ///
 /// A fresh object stores nothing: the start-up code attaches a store, tests leave it out.
-class Defaults final : public QObject
-{
+class Defaults final : public QObject {
     Q_OBJECT
 
 public:

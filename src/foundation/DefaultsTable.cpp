@@ -3,11 +3,9 @@
 #include <algorithm>
 #include <vector>
 
-namespace tessara
-{
+namespace tessara {
 
-namespace
-{
+namespace {
 
 using namespace DefaultKey;
 

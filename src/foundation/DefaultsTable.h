@@ -5,12 +5,10 @@
 
 #include <span>
 
-namespace tessara
-{
+namespace tessara {
 
 /// Names of the settings. One constant a key, so that a misspelt key does not compile.
-namespace DefaultKey
-{
+namespace DefaultKey {
 #define TESSARA_DEFAULT_KEY(name) inline constexpr char16_t name[] = u"" #name
 TESSARA_DEFAULT_KEY(Sensitivity);
 TESSARA_DEFAULT_KEY(Units);

@@ -1,7 +1,6 @@
 #include "foundation/Directories.h"
 
-namespace tessara
-{
+namespace tessara {
 
 Directories& Directories::installed()
 {

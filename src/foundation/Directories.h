@@ -4,16 +4,14 @@
 
 #include <optional>
 
-namespace tessara
-{
+namespace tessara {
 
 /// Questions that a record asks about its BSSID and an element about its OUI. The model does not
 /// know who answers: the start-up code installs the real directories, and until then, or in a
 /// test that installs none, nobody knows anything.
 
 /// Names the makers of equipment.
-class VendorDirectory
-{
+class VendorDirectory {
 public:
     virtual ~VendorDirectory() = default;
     /// The maker of the access point of a normalised BSSID ("0A:1B:2C:3D:4E:5F").
@@ -21,16 +19,14 @@ public:
 };
 
 /// Names that devices announce about themselves on the local network.
-class DeviceNameDirectory
-{
+class DeviceNameDirectory {
 public:
     virtual ~DeviceNameDirectory() = default;
     virtual std::optional<QString> deviceNameFor(const QString& bssid) const = 0;
 };
 
 /// The user's notes on networks.
-class AnnotationsDirectory
-{
+class AnnotationsDirectory {
 public:
     virtual ~AnnotationsDirectory() = default;
     virtual std::optional<QString> annotationsFor(const QString& bssid) const = 0;

@@ -2,8 +2,7 @@
 
 #include <QCoreApplication>
 
-namespace tessara
-{
+namespace tessara {
 
 /// A text for the user, looked up in the language of the session. The key is the English text.
 inline QString localized(const char* englishText)

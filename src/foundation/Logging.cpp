@@ -1,7 +1,6 @@
 #include "foundation/Logging.h"
 
-namespace tessara
-{
+namespace tessara {
 
 Q_LOGGING_CATEGORY(lcFoundation, "tessara.foundation")
 Q_LOGGING_CATEGORY(lcScanning, "tessara.scanning")

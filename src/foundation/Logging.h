@@ -2,8 +2,7 @@
 
 #include <QLoggingCategory>
 
-namespace tessara
-{
+namespace tessara {
 
 /// One category for each folder that has something to say. What happens in the background and
 /// concerns nobody at once is one line here; what the user must act on is a TSAlert.

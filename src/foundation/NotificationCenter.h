@@ -3,13 +3,11 @@
 #include <QObject>
 #include <QString>
 
-namespace tessara
-{
+namespace tessara {
 
 /// The program's notifications, one signal each. Posting is emitting: it may be done on any
 /// thread, and an observer that lives on another thread is called there, later.
-class NotificationCenter final : public QObject
-{
+class NotificationCenter final : public QObject {
     Q_OBJECT
 
 Q_SIGNALS:

@@ -2,11 +2,9 @@
 
 #include <QCollator>
 
-namespace tessara
-{
+namespace tessara {
 
-namespace
-{
+namespace {
 
 QCollator makeCollator()
 {

@@ -2,8 +2,7 @@
 
 #include <QString>
 
-namespace tessara
-{
+namespace tessara {
 
 /// How a person in the session's language would order two names: letters without case first,
 /// digits by the number that they spell ("9" before "10"). Negative, 0 or positive.

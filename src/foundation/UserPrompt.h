@@ -5,8 +5,7 @@
 
 #include <functional>
 
-namespace tessara
-{
+namespace tessara {
 
 /// Something that the user must know or decide.
 struct TSAlert {
@@ -25,8 +24,7 @@ struct TSAlert {
 
 /// Asks the user. The window answers with sheets, the command line with lines on standard error,
 /// a test with what it wants to see happen.
-class UserPrompt
-{
+class UserPrompt {
 public:
     using Answer = std::function<void(int returnCode)>;
     using AlertId = int;

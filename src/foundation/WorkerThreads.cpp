@@ -1,7 +1,6 @@
 #include "foundation/WorkerThreads.h"
 
-namespace tessara
-{
+namespace tessara {
 
 WorkerThreads::~WorkerThreads()
 {

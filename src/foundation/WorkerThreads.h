@@ -4,13 +4,11 @@
 #include <thread>
 #include <vector>
 
-namespace tessara
-{
+namespace tessara {
 
 /// Background threads that end by themselves. Whoever owns this waits for them when it goes.
 /// Used by the main thread only.
-class WorkerThreads
-{
+class WorkerThreads {
 public:
     WorkerThreads() = default;
     ~WorkerThreads();

@@ -2,11 +2,9 @@
 
 #include <algorithm>
 
-namespace tessara
-{
+namespace tessara {
 
-namespace
-{
+namespace {
 
 constexpr BandInfo kBands[] = {
     {Band::k2Dot4GHz, "2.4 GHz", 1, 14, 2407},

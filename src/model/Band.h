@@ -4,8 +4,7 @@
 #include <optional>
 #include <span>
 
-namespace tessara
-{
+namespace tessara {
 
 /// Frequency bands, by the code that the Wi-Fi service gives them.
 enum class Band : std::uint8_t { k2Dot4GHz = 1, k5GHz = 2 };

@@ -3,11 +3,9 @@
 #include <algorithm>
 #include <iterator>
 
-namespace tessara
-{
+namespace tessara {
 
-namespace
-{
+namespace {
 
 struct WidthInfo {
     ChannelWidth width;

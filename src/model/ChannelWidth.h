@@ -3,8 +3,7 @@
 #include <cstdint>
 #include <optional>
 
-namespace tessara
-{
+namespace tessara {
 
 /// Channel widths, by the code that records and the Wi-Fi service use.
 enum class ChannelWidth : std::uint8_t {

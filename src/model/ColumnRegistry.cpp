@@ -11,11 +11,9 @@
 #include <algorithm>
 #include <cmath>
 
-namespace tessara
-{
+namespace tessara {
 
-namespace
-{
+namespace {
 
 // Cell texts ----------------------------------------------------------------------------------
 

@@ -6,8 +6,7 @@
 #include <span>
 #include <vector>
 
-namespace tessara
-{
+namespace tessara {
 
 class TSNetwork;
 

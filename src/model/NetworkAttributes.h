@@ -9,8 +9,7 @@
 #include <cstdint>
 #include <vector>
 
-namespace tessara
-{
+namespace tessara {
 
 /// What a record says of its network beyond the raw scan dictionary. `TSNetwork::setNetwork`
 /// writes all of it anew at each scan; the values here are those of a fresh record.

@@ -4,8 +4,7 @@
 #include <array>
 #include <random>
 
-namespace tessara
-{
+namespace tessara {
 
 std::span<const QColor> NetworkColors::named()
 {

@@ -6,13 +6,11 @@
 #include <functional>
 #include <span>
 
-namespace tessara
-{
+namespace tessara {
 
 /// Gives each network its colour in the charts: nine well-told-apart colours first, then
 /// variations of them without end.
-class NetworkColors
-{
+class NetworkColors {
 public:
     /// @param random gives a fresh number in the range 0 to 1 at each call
     explicit NetworkColors(std::function<double()> random);

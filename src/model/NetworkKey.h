@@ -6,8 +6,7 @@
 
 #include <cstddef>
 
-namespace tessara
-{
+namespace tessara {
 
 /// What makes two sightings one network: the BSSID, without regard to case, and the band. Neither
 /// the channel nor the name plays a part. Raw BSSIDs are compared as they stand.

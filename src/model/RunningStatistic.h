@@ -3,8 +3,7 @@
 #include <algorithm>
 #include <cstdint>
 
-namespace tessara
-{
+namespace tessara {
 
 /// Average, lowest and highest of the values added so far.
 struct RunningStatistic {

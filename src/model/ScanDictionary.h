@@ -8,8 +8,7 @@
 #include <optional>
 #include <vector>
 
-namespace tessara
-{
+namespace tessara {
 
 /// The raw scan dictionary: what one scan says of one network, and the one record that crosses
 /// from the Wi-Fi service into the model. Saved files and recordings hold it as it is. One member

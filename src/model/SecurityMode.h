@@ -3,8 +3,7 @@
 #include <cstdint>
 #include <limits>
 
-namespace tessara
-{
+namespace tessara {
 
 /// Kinds of security, by the code that raw scan dictionaries, records and saved files hold.
 enum class SecurityMode : std::int64_t {

@@ -2,8 +2,7 @@
 
 #include <algorithm>
 
-namespace tessara
-{
+namespace tessara {
 
 std::int64_t signalPercentage(std::int64_t dBm)
 {

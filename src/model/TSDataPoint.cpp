@@ -3,11 +3,9 @@
 #include <algorithm>
 #include <limits>
 
-namespace tessara
-{
+namespace tessara {
 
-namespace
-{
+namespace {
 
 /// Values of the real world fit with room to spare; a file can hold any number.
 template <typename Stored>

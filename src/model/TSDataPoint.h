@@ -2,14 +2,12 @@
 
 #include <cstdint>
 
-namespace tessara
-{
+namespace tessara {
 
 // Packed to 20 bytes: the alignment of the time alone would cost a fifth more.
 #pragma pack(push, 4)
 /// One sample of one network, immutable. Kept small, since a day of scanning holds millions.
-class TSDataPoint
-{
+class TSDataPoint {
 public:
     /// The signal of a sample that holds no data, and the lowest noise that is kept.
     static constexpr std::int64_t kNoData = -120;

@@ -8,11 +8,9 @@
 
 #include <algorithm>
 
-namespace tessara
-{
+namespace tessara {
 
-namespace
-{
+namespace {
 
 QString normalizedBSSID(const QString& raw)
 {

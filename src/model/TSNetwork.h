@@ -16,16 +16,14 @@
 #include <optional>
 #include <vector>
 
-namespace tessara
-{
+namespace tessara {
 
 /// The record of one basic service set: one BSSID on one band, as the scanner has seen it.
 ///
 /// Created when a scan first reports it, it lives until the scan cycle drops it. Each later scan
 /// replaces its raw scan dictionary and appends one sample; everything else is derived. Records
 /// belong to the main thread.
-class TSNetwork
-{
+class TSNetwork {
 public:
     /// The longest history: at one sample every two seconds, some 18 hours.
     static constexpr std::size_t kMaxDataPoints = 32769;

@@ -3,8 +3,7 @@
 #include "foundation/Defaults.h"
 #include "foundation/Logging.h"
 
-namespace tessara
-{
+namespace tessara {
 
 bool CWInterface::isAssociated() const
 {

@@ -10,8 +10,7 @@
 #include <optional>
 #include <vector>
 
-namespace tessara
-{
+namespace tessara {
 
 /// Why the Wi-Fi service could not do what was asked.
 struct CWError {
@@ -32,8 +31,7 @@ struct CWScan {
 
 /// One Wi-Fi interface of the machine: the boundary behind which the Wi-Fi service lies. All
 /// operations may be called from any thread, and from several at once.
-class CWInterface
-{
+class CWInterface {
 public:
     virtual ~CWInterface() = default;
 
@@ -67,8 +65,7 @@ public:
 };
 
 /// The Wi-Fi service of this machine, where its interfaces come from.
-class WiFiService
-{
+class WiFiService {
 public:
     virtual ~WiFiService() = default;
 

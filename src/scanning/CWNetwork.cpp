@@ -3,11 +3,9 @@
 #include "elements/ElementRun.h"
 #include "model/SecurityMode.h"
 
-namespace tessara
-{
+namespace tessara {
 
-namespace
-{
+namespace {
 
 constexpr std::uint32_t kMicrosoftOUI = 0x0050F2;
 constexpr std::uint8_t kWPAType = 1;

@@ -11,8 +11,7 @@
 #include <cstdint>
 #include <optional>
 
-namespace tessara
-{
+namespace tessara {
 
 /// A channel as the Wi-Fi service describes it.
 struct CWChannel {
@@ -27,8 +26,7 @@ struct CWChannel {
 enum class CWSecurity : int { kWEP = 1 };
 
 /// One network of a scan, as the Wi-Fi service reports it.
-class CWNetwork
-{
+class CWNetwork {
 public:
     std::optional<QString> bssid;
     std::optional<QString> ssid; ///< none for a hidden network

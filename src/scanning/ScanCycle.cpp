@@ -4,8 +4,7 @@
 #include "foundation/Localized.h"
 #include "foundation/Logging.h"
 
-namespace tessara
-{
+namespace tessara {
 
 ScanCycle::ScanCycle(std::shared_ptr<CWInterface> interface, EngineServices services,
                      ScanCycleViews& views, UserPrompt& prompt)

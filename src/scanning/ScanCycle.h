@@ -11,12 +11,10 @@
 #include <memory>
 #include <optional>
 
-namespace tessara
-{
+namespace tessara {
 
 /// The views as the scan cycle sees them. What a front end has no view for, it leaves out.
-class ScanCycleViews
-{
+class ScanCycleViews {
 public:
     virtual ~ScanCycleViews() = default;
 
@@ -47,8 +45,7 @@ public:
 /// timer on the main thread takes every 2 seconds whatever results there are and merges them. The
 /// timer, not the radio, is the grid of the samples: with nothing newer, the same results are
 /// merged again under a new time. Lives on the main thread.
-class ScanCycle final : public QObject
-{
+class ScanCycle final : public QObject {
     Q_OBJECT
 
 public:

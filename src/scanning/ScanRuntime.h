@@ -7,13 +7,11 @@
 
 #include <stop_token>
 
-namespace tessara
-{
+namespace tessara {
 
 /// Real time and real threads for scanning, for as long as a program runs. When it goes, sleeping
 /// engines wake up and end, and it waits for them: what they use must outlive it.
-class ScanRuntime
-{
+class ScanRuntime {
 public:
     ScanRuntime() = default;
     ~ScanRuntime() { m_shutdown.request_stop(); }

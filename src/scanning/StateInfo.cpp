@@ -3,11 +3,9 @@
 #include "foundation/Localized.h"
 #include "scanning/CWInterface.h"
 
-namespace tessara
-{
+namespace tessara {
 
-namespace
-{
+namespace {
 
 QString associationText(const CWInterface& interface)
 {

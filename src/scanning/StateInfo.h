@@ -2,8 +2,7 @@
 
 #include <QString>
 
-namespace tessara
-{
+namespace tessara {
 
 class CWInterface;
 

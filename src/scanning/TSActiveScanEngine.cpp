@@ -4,11 +4,9 @@
 
 #include <unordered_set>
 
-namespace tessara
-{
+namespace tessara {
 
-namespace
-{
+namespace {
 
 /// The networks without their duplicates: of two of one network the first one stays.
 std::vector<CWNetwork> withoutDuplicates(std::vector<CWNetwork> networks)

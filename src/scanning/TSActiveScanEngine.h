@@ -12,8 +12,7 @@
 #include <optional>
 #include <vector>
 
-namespace tessara
-{
+namespace tessara {
 
 /// What an engine needs of its surroundings.
 struct EngineServices {
@@ -29,8 +28,7 @@ struct EngineServices {
 ///
 /// An engine is started once. After `stopEngine` its thread finishes what it is doing and ends by
 /// itself, holding the engine alive until then.
-class TSActiveScanEngine final : public std::enable_shared_from_this<TSActiveScanEngine>
-{
+class TSActiveScanEngine final : public std::enable_shared_from_this<TSActiveScanEngine> {
 public:
     static constexpr double kScanInterval = 3.0;  ///< seconds between two scans
     static constexpr double kPowerOffPause = 1.0; ///< seconds between two looks at the power

@@ -1,4 +1,4 @@
-#include "foundation/Defaults.h"
+#include "foundation/SettingsOptions.h"
 #include "foundation/TerminationSignals.h"
 #include "scanning/ScanRuntime.h"
 #include "scanning/StateInfo.h"
@@ -7,6 +7,7 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QTextStream>
 
 using namespace tessara;
 
@@ -26,9 +27,13 @@ int main(int argc, char** argv)
     parser.setApplicationDescription(QStringLiteral("A Wi-Fi network analyser."));
     parser.addHelpOption();
     parser.addVersionOption();
+    addSettingsOptions(parser);
     parser.process(application);
+    if (const QString error = applySettingsOptions(parser); !error.isEmpty()) {
+        QTextStream(stderr) << "tessara: " << error << Qt::endl;
+        return 2;
+    }
 
-    Defaults::standard().attach(std::make_unique<QSettings>());
     ScanRuntime runtime;
     SystemWiFiService wifi(runtime.clock(), runtime.pause(), runtime.notifications());
     AppDelegate delegate(wifi, runtime.engineServices());

@@ -7,8 +7,7 @@
 
 using namespace tessara;
 
-namespace
-{
+namespace {
 
 std::unique_ptr<QSettings> storeIn(const QTemporaryDir& folder)
 {

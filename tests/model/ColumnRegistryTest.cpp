@@ -6,8 +6,7 @@
 
 using namespace tessara;
 
-namespace
-{
+namespace {
 
 std::string text(const char* identifier, const TSNetwork& network, CellContext context = {})
 {

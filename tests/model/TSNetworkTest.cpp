@@ -8,8 +8,7 @@
 
 using namespace tessara;
 
-namespace
-{
+namespace {
 
 constexpr double kNow = 1'700'000'000.0;
 

@@ -7,8 +7,7 @@
 
 using namespace tessara;
 
-namespace
-{
+namespace {
 
 ReceivedFrame received(const QByteArray& frame)
 {

@@ -12,8 +12,7 @@
 #include <memory>
 #include <vector>
 
-namespace tessara
-{
+namespace tessara {
 
 // Frames and captures made by hand, byte for byte.
 

@@ -9,8 +9,7 @@
 using namespace tessara;
 using testing::ElementsAre;
 
-namespace
-{
+namespace {
 
 constexpr double kStart = 1'700'000'000.0;
 constexpr MergeLimits kNoLimits{std::nullopt, 1e9};

@@ -7,8 +7,7 @@
 
 using namespace tessara;
 
-namespace
-{
+namespace {
 
 constexpr int kBare = 105;
 constexpr int kPrism = 119;

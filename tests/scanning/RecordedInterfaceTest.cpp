@@ -14,8 +14,7 @@ using testing::DoubleNear;
 using testing::ElementsAre;
 using testing::HasSubstr;
 
-class PlayedRecording : public testing::Test
-{
+class PlayedRecording : public testing::Test {
 protected:
     /// A recording whose scans find one network each, with the signals -1, -2, … dBm.
     std::unique_ptr<RecordedInterface> play(const std::vector<double>& times,

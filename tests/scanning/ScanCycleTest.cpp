@@ -13,8 +13,7 @@
 using namespace tessara;
 using testing::ElementsAre;
 
-namespace
-{
+namespace {
 
 /// Runs what is queued, and what that queues in turn.
 void settle()
@@ -24,8 +23,7 @@ void settle()
 }
 
 /// Writes down what it is asked and answers when the test says so.
-class ScriptedPrompt final : public UserPrompt
-{
+class ScriptedPrompt final : public UserPrompt {
 public:
     AlertId beginAlert(const TSAlert& alert, Answer answer) override
     {
@@ -41,8 +39,7 @@ public:
 };
 
 /// Views that remember.
-class RecordingViews final : public ScanCycleViews
-{
+class RecordingViews final : public ScanCycleViews {
 public:
     void filterAndSetNetworks(const NetworkList& networks) override
     {
@@ -76,8 +73,7 @@ public:
 };
 
 /// A cycle whose engine does not run by itself: its thread's body is kept for the test to run.
-class CycleTest : public testing::Test
-{
+class CycleTest : public testing::Test {
 protected:
     CycleTest() { pause.shutDown = true; } // one round of the loop at each run of the body
 

@@ -5,12 +5,10 @@
 #include <deque>
 #include <functional>
 
-namespace tessara
-{
+namespace tessara {
 
 /// A Wi-Fi interface that does what a test tells it, and remembers what it was asked.
-class ScriptedInterface final : public CWInterface
-{
+class ScriptedInterface final : public CWInterface {
 public:
     QString interfaceName() const override { return QStringLiteral("wlan0"); }
     bool powerOn() const override { return power; }

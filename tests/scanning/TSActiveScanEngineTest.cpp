@@ -11,14 +11,12 @@
 using namespace tessara;
 using testing::ElementsAre;
 
-namespace
-{
+namespace {
 
 constexpr std::nullopt_t kAll = std::nullopt;
 
 /// Runs engines on the test's own thread: the loop ends when a test stops it in a pause.
-class EngineTest : public testing::Test
-{
+class EngineTest : public testing::Test {
 protected:
     EngineTest()
     {

@@ -7,12 +7,10 @@
 #include <memory>
 #include <vector>
 
-namespace tessara
-{
+namespace tessara {
 
 /// Time that a test moves by hand. Timers fire while it moves, each at its own time.
-class ManualClock final : public Clock
-{
+class ManualClock final : public Clock {
 public:
     explicit ManualClock(double start = 1'700'000'000.0)
         : m_now(start)
@@ -83,8 +81,7 @@ private:
 };
 
 /// Sleeps by moving a manual clock, and remembers each sleep.
-class ManualPause final : public Pause
-{
+class ManualPause final : public Pause {
 public:
     explicit ManualPause(ManualClock& clock)
         : m_clock(clock)

@@ -7,8 +7,7 @@
 #include <cstdint>
 #include <optional>
 
-namespace tessara
-{
+namespace tessara {
 
 /// A beacon or a probe response (IEEE Std 802.11-2020, 9.3.3.2 and 9.3.3.10): what a network says
 /// of itself.

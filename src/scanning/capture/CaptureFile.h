@@ -11,8 +11,7 @@
 
 struct pcap;
 
-namespace tessara
-{
+namespace tessara {
 
 /// One packet of a capture.
 struct CapturedPacket {
@@ -23,8 +22,7 @@ struct CapturedPacket {
 };
 
 /// The packets of a capture in pcap or pcapng form, in the order of the file.
-class CaptureFile
-{
+class CaptureFile {
 public:
     /// Reads from the device's present place on. The device must outlive the object.
     explicit CaptureFile(QIODevice& device);

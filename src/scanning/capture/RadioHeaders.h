@@ -4,8 +4,7 @@
 
 #include <optional>
 
-namespace tessara
-{
+namespace tessara {
 
 /// A frame as a capture holds it, and what the header before it says of its reception.
 struct ReceivedFrame {

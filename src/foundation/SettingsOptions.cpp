@@ -1,4 +1,4 @@
-#include "cli/SettingsOptions.h"
+#include "foundation/SettingsOptions.h"
 
 #include "foundation/Defaults.h"
 
