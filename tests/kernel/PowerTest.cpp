@@ -1,0 +1,61 @@
+#include "kernel/RadioTest.h"
+
+#include <future>
+
+using namespace tessara;
+using namespace tessara::kernel;
+
+namespace
+{
+
+void blockRadio(bool isBlocked)
+{
+    outputOf(QStringLiteral("echo %1 | tee /sys/class/net/wlan0/phy80211/rfkill*/soft")
+                 .arg(isBlocked ? 1 : 0));
+}
+
+class Power : public RadioTest
+{
+protected:
+    void TearDown() override
+    {
+        blockRadio(false);
+        outputOf(QStringLiteral("ip link set wlan0 up"));
+    }
+};
+
+TEST_F(Power, FollowsTheRadioSwitchAndTurnsItBackOn)
+{
+    EXPECT_TRUE(wlan0->powerOn());
+
+    blockRadio(true);
+    EXPECT_TRUE(eventually([&] { return powerChanges > 0; }));
+    EXPECT_FALSE(wlan0->powerOn());
+    const CWScan off = wlan0->scanForNetworksWithSSID({});
+    EXPECT_TRUE(off.error);
+    EXPECT_TRUE(off.networks.empty());
+
+    powerChanges = 0;
+    EXPECT_FALSE(wlan0->setPower(true));
+    EXPECT_TRUE(wlan0->powerOn());
+    EXPECT_TRUE(eventually([&] { return powerChanges > 0; }));
+    const CWScan on = wlan0->scanForNetworksWithSSID({});
+    EXPECT_FALSE(on.error);
+    EXPECT_EQ(on.networks.size(), standingNetworks().size());
+
+    EXPECT_FALSE(wlan0->setPower(false));
+    EXPECT_FALSE(wlan0->powerOn());
+    EXPECT_FALSE(wlan0->setPower(true));
+}
+
+TEST_F(Power, EndsAScanWhenTheRadioGoesOff)
+{
+    auto scanning =
+        std::async(std::launch::async, [&] { return wlan0->scanForNetworksWithSSID({}); });
+    ASSERT_TRUE(eventually(isScanning));
+    blockRadio(true);
+    EXPECT_TRUE(scanning.get().error);
+    EXPECT_FALSE(wlan0->setPower(true));
+}
+
+} // namespace
