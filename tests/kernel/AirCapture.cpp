@@ -6,11 +6,9 @@
 
 #include <stdexcept>
 
-namespace tessara::kernel
-{
+namespace tessara::kernel {
 
-namespace
-{
+namespace {
 
 constexpr qsizetype kHeader = 24;      ///< of a management frame
 constexpr qsizetype kBSSID = 16;       ///< address 3

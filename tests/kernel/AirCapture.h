@@ -10,13 +10,11 @@
 
 struct pcap;
 
-namespace tessara::kernel
-{
+namespace tessara::kernel {
 
 /// Listens to all that the simulated radios send, as long as it lives, and keeps the elements of
 /// each beacon and probe response: what a scan can have heard, by a way of its own.
-class AirCapture
-{
+class AirCapture {
 public:
     AirCapture();
     ~AirCapture();

@@ -3,11 +3,9 @@
 #include <QDir>
 #include <QFile>
 
-namespace tessara::kernel
-{
+namespace tessara::kernel {
 
-namespace
-{
+namespace {
 
 /// The bytes of a name written as P"..." with \xHH.
 QByteArray printfText(QByteArray value)

@@ -7,8 +7,7 @@
 
 #include <vector>
 
-namespace tessara::kernel
-{
+namespace tessara::kernel {
 
 /// A network as hostapd was told to announce it.
 struct AnnouncedNetwork {

@@ -5,8 +5,7 @@
 using namespace tessara;
 using namespace tessara::kernel;
 
-namespace
-{
+namespace {
 
 using Association = RadioTest;
 

@@ -3,13 +3,11 @@
 #include <QCoreApplication>
 #include <QDeadlineTimer>
 
-namespace tessara::kernel
-{
+namespace tessara::kernel {
 
-namespace
-{
+namespace {
 
-constexpr int kPatience = 10'000; ///< milliseconds
+constexpr int kPatience = 20'000; ///< milliseconds
 
 } // namespace
 

@@ -6,12 +6,10 @@
 
 #include <functional>
 
-namespace tessara::kernel
-{
+namespace tessara::kernel {
 
 /// A program that runs beside the test, and ends with it.
-class Daemon
-{
+class Daemon {
 public:
     /// Starts the program and waits until it has printed `ready`.
     Daemon(const QString& program, const QStringList& arguments, const QByteArray& ready);
@@ -31,7 +29,7 @@ private:
 /// What a command of the shell prints.
 QString outputOf(const QString& command);
 
-/// Handles events until a condition holds. False if it does not within ten seconds, far longer
+/// Handles events until a condition holds. False if it does not within twenty seconds, far longer
 /// than anything here takes.
 bool eventually(const std::function<bool()>& condition);
 

@@ -10,12 +10,10 @@
 
 #include <algorithm>
 
-namespace tessara::kernel
-{
+namespace tessara::kernel {
 
 /// A test on the first of the simulated radios.
-class RadioTest : public testing::Test
-{
+class RadioTest : public testing::Test {
 protected:
     void SetUp() override
     {

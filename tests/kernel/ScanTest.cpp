@@ -9,11 +9,9 @@
 using namespace tessara;
 using namespace tessara::kernel;
 
-namespace
-{
+namespace {
 
-class Scan : public RadioTest
-{
+class Scan : public RadioTest {
 protected:
     CWScan scan(const std::optional<QByteArray>& ssid = std::nullopt)
     {

@@ -9,14 +9,12 @@
 using namespace tessara;
 using namespace tessara::kernel;
 
-namespace
-{
+namespace {
 
 int linesLogged = 0;
 
 /// A user who may not scan. The tests of these two are run by such a user.
-class UnprivilegedUser : public RadioTest
-{
+class UnprivilegedUser : public RadioTest {
 protected:
     void SetUp() override
     {
