@@ -53,7 +53,7 @@ QVariant Defaults::storedValue(QStringView key) const
     const QString name = key.toString();
     if (const auto found = m_values.constFind(name); found != m_values.cend())
         return *found;
-    const QVariant stored = m_store ? m_store->value(name) : QVariant();
+    QVariant stored = m_store ? m_store->value(name) : QVariant();
     m_values.insert(name, stored);
     return stored;
 }

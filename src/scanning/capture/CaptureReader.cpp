@@ -104,7 +104,8 @@ void CaptureReader::advanceTo(double captureTime)
 
     endSweep(m_sweepNumber);
     const double silent = number - m_sweepNumber - 1;
-    for (double i = 1; i < std::min(silent, kMostSilentSweeps); ++i)
+    const int told = static_cast<int>(std::min(silent, kMostSilentSweeps));
+    for (int i = 1; i < told; ++i)
         endSweep(m_sweepNumber + i);
     if (silent > 0)
         endSweep(number - 1);

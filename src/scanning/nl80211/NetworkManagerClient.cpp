@@ -43,7 +43,7 @@ QVariant valueOf(const QDBusMessage& reply)
 
 QString reasonOf(const QDBusMessage& reply)
 {
-    const auto notRunning = QStringLiteral("NetworkManager is not running");
+    auto notRunning = QStringLiteral("NetworkManager is not running");
     if (reply.errorName() == kNoOwner) // what a call that must not start the daemon gets
         return notRunning;
     switch (QDBusError(reply).type()) {
@@ -131,7 +131,7 @@ NetworkManagerScan NetworkManagerClient::scan(const QString& interfaceName,
             return {End::kFinished, {}, *before};
         // Refused for a scan that is under way: its end is the next one.
     }
-    for (double waited = 0; waited < kLongestWait; waited += kStep) {
+    for (int step = 0; step < kLongestWait / kStep; ++step) {
         if (!pause.sleep(kStep))
             return {End::kShutDown, {}};
         const auto current = lastScan(path);
