@@ -40,13 +40,13 @@ ColumnLayout ColumnLayout::fromJson(const QByteArray& json)
 {
     ColumnLayout layout;
     const QJsonObject stored = QJsonDocument::fromJson(json).object();
-    for (const QJsonValue& value : stored[kColumns].toArray()) {
+    for (const QJsonValueConstRef value : stored[kColumns].toArray()) {
         const Column* column = columnWithIdentifier(value[kIdentifier].toString());
         const int width = value[kWidth].toInt();
         if (column && width > 0 && width <= kWidestColumn)
             layout.sections.push_back({column, width, value[kHidden].toBool()});
     }
-    for (const QJsonValue& value : stored[kSorting].toArray()) {
+    for (const QJsonValueConstRef value : stored[kSorting].toArray()) {
         const Column* column = columnWithIdentifier(value[kIdentifier].toString());
         if (column && column->comparison != Comparison::kNone)
             layout.sortDescriptors.push_back({column, value[kAscending].toBool(true)});
