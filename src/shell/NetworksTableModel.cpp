@@ -117,7 +117,7 @@ void NetworksTableModel::setNetworks(const NetworkList& networks, const CellCont
         const auto indexes = static_cast<std::size_t>(persistentIndexList().size());
         if (changes.steps() <= kMaxSteps && changes.steps() * indexes <= kMaxIndexesInSteps) {
             removeRuns(changes);
-            moveRows(changes, networks);
+            moveRuns(changes, networks);
             insertRuns(changes, networks);
         } else {
             rebuild(changes, networks);
@@ -139,7 +139,7 @@ void NetworksTableModel::removeRuns(const Changes& changes)
 
 /// Puts each row that moves right behind the one that it is to follow. Taken from the top of the
 /// new list, what it is to follow is in its place already.
-void NetworksTableModel::moveRows(const Changes& changes, const NetworkList& networks)
+void NetworksTableModel::moveRuns(const Changes& changes, const NetworkList& networks)
 {
     for (const int target : changes.moved) {
         int predecessor = target - 1;

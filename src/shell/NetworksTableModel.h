@@ -42,7 +42,7 @@ private:
     struct Changes;
 
     void removeRuns(const Changes& changes);
-    void moveRows(const Changes& changes, const NetworkList& networks);
+    void moveRuns(const Changes& changes, const NetworkList& networks);
     void insertRuns(const Changes& changes, const NetworkList& networks);
     void rebuild(const Changes& changes, const NetworkList& networks);
 
