@@ -11,10 +11,11 @@ namespace tessara {
 
 namespace {
 
-// More steps than this cost more than one change of the whole layout, and each costs the more
-// the more indexes the views hold: a selection of many rows.
+// More steps than this cost more than one change of the whole layout. Each costs the more the
+// more indexes the views hold: at the first move a selection model takes one for each cell of each
+// selected row.
 constexpr std::size_t kMaxSteps = 50;
-constexpr std::size_t kMaxIndexesInSteps = 5000;
+constexpr std::size_t kMaxIndexesInSteps = 200;
 
 constexpr int kGone = -1;
 
