@@ -31,6 +31,10 @@ extern const Command kConvertCommand;
 extern const Command kScanCommand;
 extern const Command kInterfacesCommand;
 
+/// Writes all that was printed to where standard output goes.
+/// @return kDone, or kFailed with a complaint if that failed
+ExitStatus finishOutput();
+
 /// Writes "tessara-cli: MESSAGE" to standard error.
 void complain(const QString& message);
 /// The same, pointing at --help. @return kWrongUsage

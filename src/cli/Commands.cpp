@@ -2,6 +2,8 @@
 
 #include <QTextStream>
 
+#include <cstdio>
+
 namespace tessara {
 
 std::span<const Command> commands()
@@ -9,6 +11,14 @@ std::span<const Command> commands()
     static const Command all[] = {kNetworksCommand, kConvertCommand, kScanCommand,
                                   kInterfacesCommand};
     return all;
+}
+
+ExitStatus finishOutput()
+{
+    if (std::fflush(stdout) == 0 && !std::ferror(stdout))
+        return kDone;
+    complain(QStringLiteral("standard output cannot be written"));
+    return kFailed;
 }
 
 void complain(const QString& message)

@@ -6,16 +6,11 @@ namespace tessara {
 
 namespace {
 
-bool isRecording(const QString& path)
-{
-    return path.endsWith(QLatin1String(".jsonl")) || path.endsWith(QLatin1String(".jsonl.gz"));
-}
-
 ExitStatus run(const QCommandLineParser& parser, const QStringList& arguments)
 {
     if (arguments.size() != 2)
         return wrongUsage(QStringLiteral("convert takes an input and an output"));
-    if (!isRecording(arguments[1])) {
+    if (!isRecordingName(arguments[1])) {
         return wrongUsage(
             QStringLiteral("%1: an output ends in .jsonl or .jsonl.gz").arg(arguments[1]));
     }

@@ -1,5 +1,6 @@
 #include "cli/Command.h"
 #include "cli/Terminal.h"
+#include "foundation/HarmlessText.h"
 #include "scanning/ScanRuntime.h"
 #include "scanning/SystemWiFiService.h"
 
@@ -40,7 +41,8 @@ ExitStatus run(const QCommandLineParser&, const QStringList& arguments)
         out << name << ": power " << (interface->powerOn() ? "on" : "off") << ", "
             << associationText(*interface) << "\n    scans by " << interface->scanMethod() << '\n';
     }
-    return kDone;
+    out.flush();
+    return finishOutput();
 }
 
 } // namespace

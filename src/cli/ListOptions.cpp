@@ -60,7 +60,7 @@ std::optional<ListOptions> listOptions(const QCommandLineParser& parser, QString
             return std::nullopt;
         }
         const QString direction = parts.mid(1).join(u':');
-        if (!direction.isEmpty() && direction != QLatin1String("desc")) {
+        if (parts.size() > 1 && direction != QLatin1String("desc")) {
             error = QStringLiteral("after ':' --sort takes 'desc', not '%1'").arg(direction);
             return std::nullopt;
         }
@@ -83,18 +83,21 @@ std::optional<ListOptions> listOptions(const QCommandLineParser& parser, QString
     return options;
 }
 
-void printList(const DisplayPipeline& pipeline, const ListOptions& options,
-               const CellContext& context, double lastScanTime)
+ExitStatus printList(const DisplayPipeline& pipeline, const ListOptions& options,
+                     const CellContext& context, double lastScanTime)
 {
-    QTextStream out(stdout);
-    if (options.format == ListOptions::Format::kJSON) {
-        out << networksJSON(pipeline.filteredNetworks(), context, lastScanTime) << '\n';
-        return;
+    {
+        QTextStream out(stdout);
+        if (options.format == ListOptions::Format::kJSON) {
+            writeNetworksJSON(out, pipeline.filteredNetworks(), context, lastScanTime);
+        } else {
+            const int width = isStandardOutputTerminal() ? terminalSize().columns : 0;
+            for (const QString& line :
+                 tableText(pipeline.filteredNetworks(), options.columns, context, width))
+                out << line << '\n';
+        }
     }
-    const int width = isStandardOutputTerminal() ? terminalSize().columns : 0;
-    for (const QString& line :
-         tableText(pipeline.filteredNetworks(), options.columns, context, width))
-        out << line << '\n';
+    return finishOutput();
 }
 
 CellContext cellContext(bool isScanning)

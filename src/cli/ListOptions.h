@@ -1,5 +1,6 @@
 #pragma once
 
+#include "cli/Command.h"
 #include "filtering/DisplayPipeline.h"
 #include "model/ColumnRegistry.h"
 
@@ -27,8 +28,9 @@ std::optional<ListOptions> listOptions(const QCommandLineParser& parser, QString
 
 /// Prints the list of a pipeline to standard output.
 /// @param lastScanTime seconds since 1970
-void printList(const DisplayPipeline& pipeline, const ListOptions& options,
-               const CellContext& context, double lastScanTime);
+/// @return whether that went well
+ExitStatus printList(const DisplayPipeline& pipeline, const ListOptions& options,
+                     const CellContext& context, double lastScanTime);
 
 /// How cells are to be shown, by the settings.
 CellContext cellContext(bool isScanning);

@@ -30,13 +30,18 @@ ExitStatus run(const QCommandLineParser& parser, const QStringList& arguments)
         return kFailed;
     }
     const Replay result = replay(*input.reader, MergeLimits::fromDefaults(Defaults::standard()));
+    if (result.scans == 0 && input.reader->error().isEmpty()) {
+        complain(QStringLiteral("%1 holds no scans").arg(arguments[0]));
+        return kFailed;
+    }
     DisplayPipeline pipeline;
     pipeline.setSortDescriptors(options->sort);
     pipeline.filterAndSetNetworks(result.networks);
     // What could be read is shown even where the input ends in an error.
-    printList(pipeline, *options, cellContext(false), result.lastScanTime);
+    const ExitStatus printed =
+        printList(pipeline, *options, cellContext(false), result.lastScanTime);
     if (input.reader->error().isEmpty())
-        return kDone;
+        return printed;
     complain(input.reader->error());
     return kFailed;
 }

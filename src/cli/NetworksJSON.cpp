@@ -35,7 +35,7 @@ QJsonObject recordJSON(const TSNetwork& network)
         {QStringLiteral("ssid"), network.ssid()},
         {QStringLiteral("isHidden"), network.isHidden()},
         {QStringLiteral("deviceName"), textOrNull(network.deviceName())},
-        {QStringLiteral("annotations"), network.annotations()},
+        {QStringLiteral("annotations"), textOrNull(network.annotations())},
         {QStringLiteral("channel"), number(network.channel())},
         {QStringLiteral("centerFrequency"), number(network.centerFrequency())},
         {QStringLiteral("stationCount"), number(network.stationCount())},
@@ -63,23 +63,26 @@ QJsonObject recordJSON(const TSNetwork& network)
 
 } // namespace
 
-QByteArray networksJSON(const NetworkList& networks, const CellContext& context,
-                        double lastScanTime)
+void writeNetworksJSON(QTextStream& out, const NetworkList& networks, const CellContext& context,
+                       double lastScanTime)
 {
-    QJsonArray list;
+    // The number in JSON's own form.
+    const QByteArray time = QJsonDocument(QJsonArray{lastScanTime}).toJson(QJsonDocument::Compact);
+    out << "{\"lastScanTime\": " << time.mid(1, time.size() - 2)
+        << ", \"filterIdentifiers\": [], \"networks\": [";
+    const char* separator = "\n";
     for (const NetworkPtr& network : networks) {
         QJsonObject columns;
         for (const Column& column : columnRegistry()) {
             if (column.cell != CellKind::kMarker)
                 columns[column.identifier] = column.text(*network, context);
         }
-        list.append(QJsonObject{{QStringLiteral("columns"), columns},
-                                {QStringLiteral("record"), recordJSON(*network)}});
+        const QJsonObject entry{{QStringLiteral("columns"), columns},
+                                {QStringLiteral("record"), recordJSON(*network)}};
+        out << separator << QJsonDocument(entry).toJson(QJsonDocument::Compact);
+        separator = ",\n";
     }
-    const QJsonObject root{{QStringLiteral("lastScanTime"), lastScanTime},
-                           {QStringLiteral("filterIdentifiers"), QJsonArray()},
-                           {QStringLiteral("networks"), list}};
-    return QJsonDocument(root).toJson(QJsonDocument::Indented).trimmed();
+    out << "\n]}\n";
 }
 
 } // namespace tessara

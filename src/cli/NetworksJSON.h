@@ -3,13 +3,14 @@
 #include "model/ColumnRegistry.h"
 #include "model/TSNetwork.h"
 
-#include <QByteArray>
+#include <QTextStream>
 
 namespace tessara {
 
-/// Networks for programs: `{"lastScanTime": seconds, "filterIdentifiers": [], "networks":
-/// [{"columns": {ID: text of the cell}, "record": {name: value}}]}`. An absent value is null.
-QByteArray networksJSON(const NetworkList& networks, const CellContext& context,
-                        double lastScanTime);
+/// Writes networks for programs, one a line: `{"lastScanTime": seconds, "filterIdentifiers": [],
+/// "networks": [{"columns": {ID: text of the cell}, "record": {name: value}}]}`. An absent value
+/// is null. Takes the memory of one network at a time.
+void writeNetworksJSON(QTextStream& out, const NetworkList& networks, const CellContext& context,
+                       double lastScanTime);
 
 } // namespace tessara

@@ -53,10 +53,17 @@ ExitStatus run(const QCommandLineParser& parser, const QStringList& arguments)
         return wrongUsage(error);
     const auto seconds = duration(parser);
     if (!seconds)
-        return wrongUsage(QStringLiteral("--duration takes a number of seconds above 0"));
+        return wrongUsage(
+            QStringLiteral("--duration takes a number of seconds above 0, a month at the most"));
     ScanSession::Options options{*list, std::nullopt, parser.isSet(QStringLiteral("watch"))};
-    if (parser.isSet(QStringLiteral("save")))
+    if (parser.isSet(QStringLiteral("save"))) {
         options.saveTo = parser.value(QStringLiteral("save"));
+        if (!isRecordingName(*options.saveTo))
+            return wrongUsage(QStringLiteral("--save %1: a file ends in .jsonl or .jsonl.gz")
+                                  .arg(*options.saveTo));
+    }
+    if (options.watch && list->format == ListOptions::Format::kJSON)
+        return wrongUsage(QStringLiteral("--watch shows a table: it goes with no other format"));
 
     const TerminationSignals signalsOfTheUser([] { QCoreApplication::quit(); });
     ScanRuntime runtime;
@@ -76,14 +83,10 @@ ExitStatus run(const QCommandLineParser& parser, const QStringList& arguments)
         QTimer::singleShot(std::chrono::milliseconds(std::llround(*seconds * 1000)), qApp,
                            &QCoreApplication::quit);
     }
-    session.start();
+    if (!session.start())
+        return kFailed;
     QCoreApplication::exec();
-
-    error = session.finish();
-    if (error.isEmpty())
-        return kDone;
-    complain(error);
-    return kFailed;
+    return session.finish();
 }
 
 } // namespace

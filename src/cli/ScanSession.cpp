@@ -2,11 +2,26 @@
 
 #include "cli/TableText.h"
 #include "cli/Terminal.h"
+#include "foundation/HarmlessText.h"
 #include "scanning/StateInfo.h"
 
 #include <QTextStream>
 
+#include <algorithm>
+#include <utility>
+
 namespace tessara {
+
+namespace {
+
+// What a terminal is told (ECMA-48, and xterm's second screen, which leaves the first as it was).
+constexpr const char* kEnterScreen = "\x1b[?1049h";
+constexpr const char* kLeaveScreen = "\x1b[?1049l";
+constexpr const char* kHome = "\x1b[H";
+constexpr const char* kClearLine = "\x1b[K";
+constexpr const char* kClearBelow = "\x1b[J";
+
+} // namespace
 
 ScanSession::ScanSession(ScanRuntime& runtime, std::shared_ptr<CWInterface> interface,
                          Options options)
@@ -23,18 +38,28 @@ ScanSession::ScanSession(ScanRuntime& runtime, std::shared_ptr<CWInterface> inte
     }
 }
 
-QString ScanSession::finish()
+bool ScanSession::start()
+{
+    if (m_writer && !m_writer->error().isEmpty()) {
+        complain(m_writer->error());
+        return false;
+    }
+    m_cycle.doStart();
+    return true;
+}
+
+ExitStatus ScanSession::finish()
 {
     const double lastScanTime = m_cycle.lastScanTime();
     m_cycle.doStop();
-    if (m_writer) {
-        m_writer->finish();
-        return m_writer->error();
-    }
-    if (m_options.watch && m_paintedLines > 0 && isStandardOutputTerminal())
-        QTextStream(stdout) << QStringLiteral("\x1b[%1A\x1b[J").arg(m_paintedLines);
-    printList(m_pipeline, m_options.list, cellContext(false), lastScanTime);
-    return {};
+    if (m_ownsScreen)
+        QTextStream(stdout) << kLeaveScreen;
+    if (!m_writer)
+        return printList(m_pipeline, m_options.list, cellContext(false), lastScanTime);
+    if (m_recorded && m_writer->finish())
+        return kDone;
+    complain(m_recorded ? m_writer->error() : QStringLiteral("nothing was recorded"));
+    return kFailed;
 }
 
 void ScanSession::filterAndSetNetworks(const NetworkList& networks)
@@ -68,25 +93,23 @@ QString ScanSession::statusLine() const
 
 void ScanSession::repaint()
 {
-    const bool terminal = isStandardOutputTerminal();
     const TerminalSize size = terminalSize();
+    const bool isTerminal = isStandardOutputTerminal();
     QStringList lines = tableText(m_pipeline.filteredNetworks(), m_options.list.columns,
-                                  cellContext(true), terminal ? size.columns : 0);
+                                  cellContext(true), isTerminal ? size.columns : 0);
     QTextStream out(stdout);
-    if (terminal) {
-        // One line each for the status, the footer and the cursor.
-        const qsizetype room = std::max(size.rows - 3, 1);
-        if (lines.size() > room)
-            lines.resize(room);
-        // In place: up to where the last table began, and clear from there.
-        if (m_paintedLines > 0)
-            out << QStringLiteral("\x1b[%1A\x1b[J").arg(m_paintedLines);
-        lines.prepend(fitted(harmless(statusLine()), size.columns, false));
-        lines.append(fitted(m_pipeline.footerText(), size.columns, false));
+    if (!isTerminal) {
+        out << lines.join(u'\n') << '\n';
+        return;
     }
-    for (const QString& line : lines)
-        out << line << '\n';
-    m_paintedLines = static_cast<int>(lines.size());
+    // The status above and the footer below; what does not fit between them is left out.
+    lines.resize(std::clamp<qsizetype>(size.rows - 2, 0, lines.size()));
+    lines.prepend(harmless(statusLine()));
+    lines.append(m_pipeline.footerText());
+    out << (std::exchange(m_ownsScreen, true) ? "" : kEnterScreen) << kHome;
+    for (qsizetype i = 0; i < lines.size(); ++i)
+        out << (i == 0 ? "" : "\r\n") << fitted(lines[i], size.columns, false) << kClearLine;
+    out << kClearBelow;
 }
 
 } // namespace tessara

@@ -26,10 +26,10 @@ public:
 
     ScanSession(ScanRuntime& runtime, std::shared_ptr<CWInterface> interface, Options options);
 
-    void start() { m_cycle.doStart(); }
+    /// @return whether there is a place for the file
+    bool start();
     /// Stops scanning, and prints the last table or puts the file in its place.
-    /// @return why the file could not be saved; empty if all went well
-    QString finish();
+    ExitStatus finish();
 
 Q_SIGNALS:
     /// Going on makes no sense: the file can't be written.
@@ -49,7 +49,7 @@ private:
     DisplayPipeline m_pipeline;
     std::unique_ptr<RecordingWriter> m_writer;
     SharedScanResults m_recorded; ///< the latest results that the file has
-    int m_paintedLines = 0;       ///< of the table on the terminal
+    bool m_ownsScreen = false;    ///< the table has the terminal to itself
     Clock& m_clock;
     ScanCycle m_cycle; // last: it calls the above
 };

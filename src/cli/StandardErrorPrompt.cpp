@@ -6,7 +6,7 @@ namespace tessara {
 
 UserPrompt::AlertId StandardErrorPrompt::beginAlert(const TSAlert& alert, Answer)
 {
-    complain(alert.messageText + u' ' + alert.informativeText);
+    complain(alert.informativeText); // the message may be a question, which nobody can answer
     return 0;
 }
 

@@ -1,6 +1,7 @@
 #include "cli/TableText.h"
 
 #include "cli/Terminal.h"
+#include "foundation/HarmlessText.h"
 #include "foundation/Localized.h"
 
 #include <algorithm>
@@ -51,6 +52,8 @@ QStringList tableText(const NetworkList& networks, const std::vector<const Colum
         for (std::size_t i = 0; i < columns.size(); ++i)
             cells += fitted(line[static_cast<qsizetype>(i)], widths[i], columns[i]->alignsRight);
         QString text = cells.join(QString(kGap, u' '));
+        if (width > 0)
+            text = fitted(text, width, false); // where even the narrowest columns do not fit
         while (text.endsWith(u' '))
             text.chop(1);
         table += text;

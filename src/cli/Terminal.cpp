@@ -1,7 +1,10 @@
 #include "cli/Terminal.h"
 
 #include <algorithm>
+#include <clocale>
+#include <cstring>
 #include <cwchar>
+#include <langinfo.h>
 #include <sys/ioctl.h>
 #include <unistd.h>
 
@@ -29,24 +32,11 @@ TerminalSize terminalSize()
     return {size.ws_col, size.ws_row};
 }
 
-QString harmless(const QString& text)
+void setUpCharacterWidths()
 {
-    QString result;
-    result.reserve(text.size());
-    for (const char32_t character : text.toUcs4()) {
-        switch (QChar::category(character)) {
-        case QChar::Other_Control:
-        case QChar::Other_Format:
-        case QChar::Other_Surrogate:
-        case QChar::Separator_Line:
-        case QChar::Separator_Paragraph:
-            result += QChar(QChar::ReplacementCharacter);
-            break;
-        default:
-            result += QChar::fromUcs4(character);
-        }
-    }
-    return result;
+    std::setlocale(LC_CTYPE, "");
+    if (std::strcmp(::nl_langinfo(CODESET), "UTF-8") != 0)
+        std::setlocale(LC_CTYPE, "C.UTF-8");
 }
 
 int displayWidth(const QString& text)

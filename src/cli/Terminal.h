@@ -14,9 +14,8 @@ struct TerminalSize {
 bool isStandardOutputTerminal();
 TerminalSize terminalSize();
 
-/// Text that a terminal shows and does not obey: what comes from the air may hold escape
-/// sequences. Control and formatting characters become the replacement character.
-QString harmless(const QString& text);
+/// Lets texts have the widths of their characters, whatever the locale of the session.
+void setUpCharacterWidths();
 
 /// Terminal columns that a harmless text takes: 2 for wide characters, 0 for combining ones.
 int displayWidth(const QString& text);

@@ -1,11 +1,13 @@
 #include "cli/Command.h"
+#include "cli/Terminal.h"
 #include "foundation/SettingsOptions.h"
 
 #include <QCoreApplication>
 #include <QTextStream>
 
 #include <algorithm>
-#include <clocale>
+#include <csignal>
+#include <new>
 
 using namespace tessara;
 
@@ -50,7 +52,9 @@ ExitStatus runCommand(const Command& command, const QStringList& words)
 
 int main(int argc, char** argv)
 {
-    std::setlocale(LC_ALL, ""); // the terminal's widths of characters depend on it
+    setUpCharacterWidths();
+    // A reader that goes away is told by a failed write; what is being recorded is still saved.
+    std::signal(SIGPIPE, SIG_IGN);
     const QCoreApplication application(argc, argv);
     QCoreApplication::setOrganizationName(QStringLiteral("Tessara"));
     QCoreApplication::setApplicationName(QStringLiteral("tessara"));
@@ -75,5 +79,10 @@ int main(int argc, char** argv)
         return wrongUsage(name.isEmpty() ? QStringLiteral("which command?")
                                          : QStringLiteral("there is no command '%1'").arg(name));
     }
-    return runCommand(*found, words);
+    try {
+        return runCommand(*found, words);
+    } catch (const std::bad_alloc&) {
+        complain(QStringLiteral("there is not enough memory for this"));
+        return kFailed;
+    }
 }

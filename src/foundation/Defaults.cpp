@@ -66,7 +66,8 @@ QVariant Defaults::value(QStringView key) const
     Q_ASSERT_X(entry != nullptr, "Defaults", "a key that is not in the table");
     QVariant value = storedValue(key);
     // A store made of text gives text; one that was edited by hand gives anything.
-    if (value.isValid() && value.convert(QMetaType(entry->type)))
+    if (value.isValid() && value.convert(QMetaType(entry->type)) &&
+        (entry->type != QMetaType::Double || std::isfinite(value.toDouble())))
         return value;
     return entry->value;
 }
@@ -107,6 +108,14 @@ bool Defaults::overrideForThisRun(QStringView key, const QString& text)
 void Defaults::overrideForThisRun(QStringView key, const QVariant& value)
 {
     m_overrides.insert(key.toString(), value);
+}
+
+void Defaults::correctValue(QStringView key, const QVariant& value)
+{
+    if (const auto found = m_overrides.find(key.toString()); found != m_overrides.end())
+        *found = value;
+    else
+        setValue(key, value);
 }
 
 void Defaults::synchronize()

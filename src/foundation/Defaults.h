@@ -37,6 +37,8 @@ public:
     /// Stores a value and tells the observers, unless it is the value already.
     void setValue(QStringView key, const QVariant& value);
     void remove(QStringView key);
+    /// Replaces a value that is out of bounds where it stands: in the store, or for this run only.
+    void correctValue(QStringView key, const QVariant& value);
 
     /// Sets a value for this run only, from text as a user types it.
     /// @return whether there is such a key and the text is a value of its type

@@ -4,8 +4,22 @@ namespace tessara {
 
 WorkerThreads::~WorkerThreads()
 {
-    for (std::thread& thread : m_threads)
-        thread.join();
+    for (Worker& worker : m_workers)
+        worker.thread.join();
+}
+
+void WorkerThreads::start(std::function<void()> body)
+{
+    m_workers.remove_if([](Worker& worker) {
+        if (worker.hasEnded)
+            worker.thread.join();
+        return worker.hasEnded.load();
+    });
+    Worker& worker = m_workers.emplace_back();
+    worker.thread = std::thread([&worker, body = std::move(body)] {
+        body();
+        worker.hasEnded = true;
+    });
 }
 
 } // namespace tessara

@@ -1,8 +1,9 @@
 #pragma once
 
+#include <atomic>
 #include <functional>
+#include <list>
 #include <thread>
-#include <vector>
 
 namespace tessara {
 
@@ -15,10 +16,14 @@ public:
     WorkerThreads(const WorkerThreads&) = delete;
     WorkerThreads& operator=(const WorkerThreads&) = delete;
 
-    void start(std::function<void()> body) { m_threads.emplace_back(std::move(body)); }
+    void start(std::function<void()> body);
 
 private:
-    std::vector<std::thread> m_threads;
+    struct Worker {
+        std::atomic<bool> hasEnded = false;
+        std::thread thread;
+    };
+    std::list<Worker> m_workers; ///< at fixed places: the threads write into them
 };
 
 } // namespace tessara

@@ -42,8 +42,7 @@ std::int64_t centerFrequencyOfChannel(std::int64_t channel)
 {
     if (channel == kJapaneseChannel)
         return kJapaneseChannelMHz;
-    // A channel below 1 counts on from the lowest band, as any channel below 14 does.
-    if (channel < kJapaneseChannel)
+    if (channel >= 0 && channel < kJapaneseChannel)
         return bandInfo(Band::k2Dot4GHz).startMHz + 5 * channel;
     if (isChannelOfBand(channel, Band::k5GHz))
         return bandInfo(Band::k5GHz).startMHz + 5 * channel;

@@ -2,6 +2,7 @@
 
 #include "foundation/Defaults.h"
 
+#include <algorithm>
 #include <bit>
 #include <limits>
 #include <utility>
@@ -145,7 +146,9 @@ bool ageAndJudge(TSNetwork& network, double scanTime, double maxElapsedSeconds)
 
 MergeLimits MergeLimits::fromDefaults(const Defaults& defaults)
 {
-    const std::int64_t sensitivity = defaults.integerForKey(DefaultKey::Sensitivity);
+    constexpr std::int64_t kBeyondAnySignal = 1000;
+    const std::int64_t sensitivity = std::clamp<std::int64_t>(
+        defaults.integerForKey(DefaultKey::Sensitivity), -kBeyondAnySignal, kBeyondAnySignal);
     return {sensitivity == kSensitivityOff ? std::nullopt : std::optional(-sensitivity),
             ageLimit(defaults)};
 }

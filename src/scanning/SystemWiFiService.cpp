@@ -24,8 +24,10 @@ SystemWiFiService::SystemWiFiService(Clock& clock, Pause& pause, NotificationCen
 
 std::shared_ptr<CWInterface> SystemWiFiService::watched(std::shared_ptr<CWInterface> interface)
 {
-    if (interface && !m_watcher)
-        m_watcher.emplace(m_notifications);
+    if (interface && !m_events) {
+        m_events.emplace(m_notifications);
+        m_sleep.emplace(QDBusConnection::systemBus(), m_notifications);
+    }
     return interface;
 }
 

@@ -3,6 +3,7 @@
 #include "foundation/Clock.h"
 #include "foundation/NotificationCenter.h"
 #include "scanning/CWInterface.h"
+#include "scanning/SleepWatcher.h"
 #include "scanning/nl80211/Nl80211EventWatcher.h"
 #include "scanning/nl80211/Nl80211Service.h"
 
@@ -29,7 +30,9 @@ private:
     Pause& m_pause;
     NotificationCenter& m_notifications;
     Nl80211Service m_kernel;
-    std::optional<Nl80211EventWatcher> m_watcher; ///< from the first real interface on
+    // From the first real interface on.
+    std::optional<Nl80211EventWatcher> m_events;
+    std::optional<SleepWatcher> m_sleep;
 };
 
 } // namespace tessara

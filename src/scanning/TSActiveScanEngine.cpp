@@ -1,5 +1,6 @@
 #include "scanning/TSActiveScanEngine.h"
 
+#include "foundation/HarmlessText.h"
 #include "foundation/Logging.h"
 
 #include <unordered_set>
@@ -84,7 +85,7 @@ ScanResults TSActiveScanEngine::dictionaries(const Networks& networks)
             continue;
         }
         qCWarning(lcScanning, "Network (%ls) found but BSSID cannot be determined.",
-                  qUtf16Printable(network.ssid.value_or(QStringLiteral("<unknown>"))));
+                  qUtf16Printable(harmless(network.ssid.value_or(QStringLiteral("<unknown>")))));
     }
     return results;
 }

@@ -86,7 +86,7 @@ void AppDelegate::loadDefaults()
     for (const auto& [key, smallest, largest] : kFontSizes) {
         const double size = defaults.doubleForKey(key);
         if (size < smallest || size > largest)
-            defaults.setValue(key, std::clamp(size, smallest, largest));
+            defaults.correctValue(key, std::clamp(size, smallest, largest));
     }
     m_window.networksView().setFontSize(defaults.doubleForKey(DefaultKey::NetworksViewFontSize));
 }

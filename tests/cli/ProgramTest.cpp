@@ -89,6 +89,9 @@ TEST_F(ProgramTest, TellsHowItIsUsed)
         {"networks a.doc", 1, "", ".pcapng"},
         {"convert a.jsonl b.txt", 2, "", "b.txt"},
         {"scan --duration -1", 2, "", "--duration"},
+        {"scan --save out.txt", 2, "", "out.txt"},
+        {"scan --watch --format json", 2, "", "--watch"},
+        {"networks a.jsonl --sort RSSI:", 2, "", "'desc'"},
         {"scan --interface none0", 1, "", "there is no Wi-Fi interface 'none0'"},
         {"scan --interface recorded:none.jsonl", 1, "", "none.jsonl"},
     };
@@ -148,6 +151,50 @@ TEST_F(ProgramTest, ShowsWhatCouldBeReadBeforeAnError)
     write("out.jsonl", "old");
     EXPECT_EQ(run(QStringLiteral("convert broken.jsonl out.jsonl")).exitCode, 1);
     EXPECT_EQ(contents("out.jsonl"), "old") << "half a file does not replace a whole one";
+}
+
+TEST_F(ProgramTest, SaysThatARecordingHoldsNothing)
+{
+    write("none.jsonl", "");
+    const Outcome outcome = run(QStringLiteral("networks none.jsonl"));
+    EXPECT_EQ(outcome.exitCode, 1);
+    EXPECT_EQ(outcome.err, QStringLiteral("tessara-cli: none.jsonl holds no scans\n"));
+    write("quiet.jsonl", "{\"time\":1,\"networks\":[]}\n");
+    EXPECT_EQ(run(QStringLiteral("networks quiet.jsonl")).exitCode, 0) << "a scan that found none";
+}
+
+TEST_F(ProgramTest, TakesNumbersThatNoRadioGives)
+{
+    write("far.jsonl",
+          "{\"time\":1,\"networks\":[{\"bssid\":\"a:0:0:0:0:1\",\"channelNumber\":65535,"
+          "\"rssiValue\":9223372036854775807,\"noiseMeasurement\":-9223372036854775807,"
+          "\"beaconInterval\":-9223372036854775807}]}\n");
+    const QString columns = QStringLiteral(" --columns BSSID,RSSI,SNR,CENTER_FREQUENCY,BEACON_INT");
+    for (const char* sensitivity : {"-9223372036854775808", "9223372036854775807"}) {
+        const Outcome outcome = run(QStringLiteral("networks far.jsonl --default Sensitivity=%1")
+                                        .arg(QLatin1String(sensitivity)) +
+                                    columns);
+        EXPECT_EQ(outcome.exitCode, 0) << outcome.err.toStdString();
+    }
+    write("wild.jsonl",
+          "{\"time\":1,\"networks\":[{\"bssid\":\"a\",\"channelNumber\":-9223372036854775807}]}\n");
+    EXPECT_EQ(run(QStringLiteral("networks wild.jsonl")).exitCode, 1);
+}
+
+TEST_F(ProgramTest, TellsWhenItsOutputIsLost)
+{
+    write("two.jsonl", kTwoScans);
+    for (const char* format : {"table", "json"}) {
+        const Outcome full = run(
+            QStringLiteral("networks two.jsonl --format %1 >/dev/full").arg(QLatin1String(format)));
+        EXPECT_EQ(full.exitCode, 1);
+        EXPECT_EQ(full.err.count(u'\n'), 1) << full.err.toStdString();
+    }
+    // A reader that goes away costs no recording.
+    const Outcome gone = run(QStringLiteral(
+        "scan --interface \"recorded:$RECORDING\" --save walk.jsonl --watch --duration 4 | true"));
+    EXPECT_EQ(gone.exitCode, 0);
+    EXPECT_FALSE(contents("walk.jsonl").isEmpty());
 }
 
 TEST_F(ProgramTest, ConvertsInACircle)

@@ -52,13 +52,33 @@ TEST(Defaults, FallsBackOnTheRegisteredValueWhereTheStoreHoldsNonsense)
     const auto store = storeIn(folder);
     store->setValue(QStringLiteral("Sensitivity"), QStringLiteral("lots"));
     store->setValue(QStringLiteral("Units"), QStringLiteral("1"));
+    store->setValue(QStringLiteral("SideViewFontSize"), QStringLiteral("nan"));
     store->sync();
     Defaults defaults;
     defaults.attach(storeIn(folder));
     EXPECT_EQ(defaults.integerForKey(DefaultKey::Sensitivity), 100);
     EXPECT_EQ(defaults.integerForKey(DefaultKey::Units), 1);
+    EXPECT_EQ(defaults.doubleForKey(DefaultKey::SideViewFontSize), 11);
     EXPECT_FALSE(defaults.boolForKey(DefaultKey::RanOnce)) << "not registered reads as false";
     EXPECT_TRUE(defaults.stringForKey(DefaultKey::InterfaceName).isEmpty());
+}
+
+TEST(Defaults, CorrectsAValueWhereItStands)
+{
+    const QTemporaryDir folder;
+    {
+        Defaults defaults;
+        defaults.attach(storeIn(folder));
+        defaults.setValue(DefaultKey::Units, 7);
+        defaults.overrideForThisRun(DefaultKey::Metric, 9);
+        defaults.correctValue(DefaultKey::Units, 1);
+        defaults.correctValue(DefaultKey::Metric, 2);
+        EXPECT_EQ(defaults.integerForKey(DefaultKey::Metric), 2);
+    }
+    Defaults defaults;
+    defaults.attach(storeIn(folder));
+    EXPECT_EQ(defaults.integerForKey(DefaultKey::Units), 1);
+    EXPECT_EQ(defaults.integerForKey(DefaultKey::Metric), 0) << "the override lasted one run";
 }
 
 TEST(Defaults, TellsItsObserversOfChangesOnly)

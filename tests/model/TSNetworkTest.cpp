@@ -97,7 +97,7 @@ TEST(TSNetwork, KnowsTheBandAndTheFrequencyOfItsChannel)
         {14, Band::k2Dot4GHz, true, false, 2484}, {15, Band::k2Dot4GHz, false, false, 0},
         {35, Band::k2Dot4GHz, false, false, 0},   {36, Band::k5GHz, false, true, 5180},
         {165, Band::k5GHz, false, true, 5825},    {166, Band::k5GHz, false, false, 0},
-        {0, Band::k2Dot4GHz, false, false, 2407},
+        {0, Band::k2Dot4GHz, false, false, 2407}, {-1, Band::k2Dot4GHz, false, false, 0},
     };
     for (const Case& c : cases) {
         const TSNetwork network(dictionary("0:0:0:0:0:1", c.channel), kNow);

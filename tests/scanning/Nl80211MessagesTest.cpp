@@ -79,6 +79,30 @@ TEST(TransmitRate, IsNotThatOfADirectPeer)
     EXPECT_EQ(rateOf(rate, nl80211_sta_flag_update{0, kPeer}), 6.0) << "the flag is not known";
 }
 
+TEST(AssociatedBSSID, IsThatOfTheAccessPointOnceAssociated)
+{
+    const auto bssidOf = [](const QByteArray& address,
+                            std::optional<nl80211_sta_flag_update> flags) {
+        NetlinkMessageBuilder builder(NL80211_CMD_NEW_STATION);
+        builder.putBytes(NL80211_ATTR_MAC, address);
+        builder.nest(NL80211_ATTR_STA_INFO, [&](auto& station) {
+            if (flags)
+                station.put(NL80211_STA_INFO_STA_FLAGS, *flags);
+        });
+        return associatedBSSID(builder.attributes());
+    };
+    constexpr std::uint32_t kAssociated = 1U << NL80211_STA_FLAG_ASSOCIATED;
+    constexpr std::uint32_t kPeer = 1U << NL80211_STA_FLAG_TDLS_PEER;
+    const QByteArray address = QByteArray::fromHex("02000000001f");
+    const auto known = QStringLiteral("02:00:00:00:00:1f");
+    using Flags = nl80211_sta_flag_update;
+    EXPECT_EQ(bssidOf(address, Flags{kAssociated, kAssociated}), known);
+    EXPECT_EQ(bssidOf(address, std::nullopt), known) << "an old kernel tells no flags";
+    EXPECT_EQ(bssidOf(address, Flags{kAssociated, 0}), std::nullopt) << "still authenticating";
+    EXPECT_EQ(bssidOf(address, Flags{kAssociated | kPeer, kAssociated | kPeer}), std::nullopt);
+    EXPECT_EQ(bssidOf(address.first(5), std::nullopt), std::nullopt);
+}
+
 TEST(SurveyNoise, IsASignedNumberThatMayBeMissing)
 {
     const auto frequency = [](auto& s) {

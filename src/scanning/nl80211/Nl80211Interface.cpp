@@ -1,5 +1,6 @@
 #include "scanning/nl80211/Nl80211Interface.h"
 
+#include "foundation/Localized.h"
 #include "foundation/Logging.h"
 #include "scanning/nl80211/Capability.h"
 #include "scanning/nl80211/InterfaceInfo.h"
@@ -29,15 +30,15 @@ QString descriptionOf(int errorNumber, const QString& interfaceName)
 {
     switch (errorNumber) {
     case ENODEV:
-        return QStringLiteral("The interface %1 is gone").arg(interfaceName);
+        return localized("The interface %1 is gone").arg(interfaceName);
     case ENETDOWN:
-        return QStringLiteral("The interface %1 is down or its radio is off").arg(interfaceName);
+        return localized("The interface %1 is down or its radio is off").arg(interfaceName);
     case EBUSY:
-        return QStringLiteral("The radio of %1 is busy").arg(interfaceName);
+        return localized("The radio of %1 is busy").arg(interfaceName);
     case EOPNOTSUPP:
-        return QStringLiteral("The driver of %1 does not support this").arg(interfaceName);
+        return localized("The driver of %1 does not support this").arg(interfaceName);
     case ENOENT:
-        return QStringLiteral("The kernel has no nl80211");
+        return localized("The kernel has no nl80211");
     default:
         return QStringLiteral("%1: %2").arg(interfaceName,
                                             QString::fromLocal8Bit(std::strerror(errorNumber)));
@@ -46,7 +47,7 @@ QString descriptionOf(int errorNumber, const QString& interfaceName)
 
 CWError timeout()
 {
-    return {CWError::kTimeout, QStringLiteral("The scan did not end in time")};
+    return {CWError::kTimeout, localized("The scan did not end in time")};
 }
 
 /// Whether all switches stand, or could be set, as wished.
@@ -84,19 +85,19 @@ std::optional<CWError> Nl80211Interface::setPower(bool on)
 {
     const auto switches = rfkillSwitches(m_name);
     if (on && std::ranges::any_of(switches, &RfkillSwitch::isHardBlocked))
-        return failure(QStringLiteral("A switch or key of this machine keeps the radio of %1 off")
-                           .arg(m_name));
+        return failure(
+            localized("A switch or key of this machine keeps the radio of %1 off").arg(m_name));
     const bool wasBlocked = std::ranges::any_of(switches, &RfkillSwitch::isBlocked);
     const bool isWithinReach = on || !switches.empty();
     if (!isWithinReach || !setSoftBlocked(switches, !on)) {
         if (const auto reason = m_networkManager.setWirelessEnabled(on))
-            return failure(QStringLiteral("No permission to switch the radio of %1, and %2")
-                               .arg(m_name, *reason));
+            return failure(
+                localized("No permission to switch the radio of %1, and %2").arg(m_name, *reason));
     }
     // The kernel takes an interface down with its radio, but does not bring it up again.
     if (!on || isInterfaceUp(m_name) || isBroughtUpByNetworkManager(wasBlocked))
         return std::nullopt;
-    return failure(QStringLiteral("The interface %1 is down: bring %1 up").arg(m_name));
+    return failure(localized("The interface %1 is down: bring %1 up").arg(m_name));
 }
 
 bool Nl80211Interface::isBroughtUpByNetworkManager(bool wasBlocked) const
@@ -123,8 +124,9 @@ std::optional<BssEntry> Nl80211Interface::associatedEntry() const
 
 std::optional<QString> Nl80211Interface::bssid() const
 {
-    const auto entry = associatedEntry();
-    return entry ? std::optional(entry->bssid) : std::nullopt;
+    // The list of stations is short; the scan results, which tell it too, are not.
+    const auto info = readInterface(m_name);
+    return info ? readAssociatedBSSID(info->index) : std::nullopt;
 }
 
 std::optional<QString> Nl80211Interface::ssid() const
@@ -179,11 +181,11 @@ CWScan Nl80211Interface::scanForNetworksWithSSID(const std::optional<QByteArray>
     case ScanEnd::kFinished:
         return results(*info, run.begun, std::nullopt);
     case ScanEnd::kAborted:
-        return results(*info, run.begun, failure(QStringLiteral("The scan was cut short")));
+        return results(*info, run.begun, failure(localized("The scan was cut short")));
     case ScanEnd::kTimedOut:
         return results(*info, run.begun, timeout());
     case ScanEnd::kShutDown:
-        return {{}, failure(QStringLiteral("The program ends"))};
+        return {{}, failure(localized("The program ends"))};
     case ScanEnd::kRefused:
         break;
     }
@@ -202,7 +204,7 @@ CWScan Nl80211Interface::scanByNetworkManager(const InterfaceInfo& info,
     case NetworkManagerScan::End::kTimedOut:
         return results(info, scan.lastScan - kLongestScan, timeout());
     case NetworkManagerScan::End::kShutDown:
-        return {{}, failure(QStringLiteral("The program ends"))};
+        return {{}, failure(localized("The program ends"))};
     case NetworkManagerScan::End::kUnavailable:
         break;
     }
@@ -213,10 +215,10 @@ CWScan Nl80211Interface::scanByNetworkManager(const InterfaceInfo& info,
 QString Nl80211Interface::scanMethod() const
 {
     if (mayTriggerScans())
-        return QStringLiteral("nl80211 (own scans)");
+        return localized("nl80211 (own scans)");
     if (const auto obstacle = m_networkManager.obstacle(m_name))
-        return QStringLiteral("cached results only: no privilege to scan, and %1").arg(*obstacle);
-    return QStringLiteral("NetworkManager (RequestScan)");
+        return localized("cached results only: no privilege to scan, and %1").arg(*obstacle);
+    return localized("NetworkManager (RequestScan)");
 }
 
 CWScan Nl80211Interface::results(const InterfaceInfo& info, std::optional<BootTime> seenSince,

@@ -6,30 +6,59 @@ namespace tessara {
 
 namespace {
 
-// nl80211_sta_flag_update: a mask of the flags that are known, then their values.
-bool isDirectPeer(const NetlinkAttributes& station)
+/// Whether a station has a flag; none where the kernel does not tell.
+std::optional<bool> hasFlag(const NetlinkAttributes& station, nl80211_sta_flags flag)
 {
-    constexpr std::uint64_t kFlag = 1U << NL80211_STA_FLAG_TDLS_PEER;
+    // nl80211_sta_flag_update: a mask of the flags that are known, then their values.
     const QByteArray flags = station.bytes(NL80211_STA_INFO_STA_FLAGS);
     nl80211_sta_flag_update update{};
     if (flags.size() < static_cast<qsizetype>(sizeof(update)))
-        return false;
+        return std::nullopt;
     std::copy_n(flags.constData(), sizeof(update), reinterpret_cast<char*>(&update));
-    return (update.mask & update.set & kFlag) != 0;
+    const std::uint32_t bit = 1U << flag;
+    return (update.mask & bit) != 0 ? std::optional((update.set & bit) != 0) : std::nullopt;
+}
+
+bool isDirectPeer(const NetlinkAttributes& station)
+{
+    return hasFlag(station, NL80211_STA_FLAG_TDLS_PEER).value_or(false);
+}
+
+/// What the first station of an interface for which there is such a value says.
+template <typename Value>
+Value firstOfStations(unsigned interfaceIndex, Value (*read)(const NetlinkAttributes&))
+{
+    Value value;
+    Nl80211Socket socket;
+    socket.dump(NL80211_CMD_GET_STATION, ofInterface(interfaceIndex),
+                [&](const Nl80211Message& message) {
+                    if (!value)
+                        value = read(message.attributes);
+                });
+    return value;
 }
 
 } // namespace
 
+std::optional<QString> readAssociatedBSSID(unsigned interfaceIndex)
+{
+    return firstOfStations(interfaceIndex, associatedBSSID);
+}
+
+std::optional<QString> associatedBSSID(const NetlinkAttributes& message)
+{
+    constexpr qsizetype kAddressLength = 6;
+    const NetlinkAttributes station = message.nested(NL80211_ATTR_STA_INFO);
+    const QByteArray address = message.bytes(NL80211_ATTR_MAC);
+    if (address.size() != kAddressLength || isDirectPeer(station) ||
+        !hasFlag(station, NL80211_STA_FLAG_ASSOCIATED).value_or(true))
+        return std::nullopt;
+    return QString::fromLatin1(address.toHex(':'));
+}
+
 std::optional<double> readTransmitRate(unsigned interfaceIndex)
 {
-    std::optional<double> rate;
-    Nl80211Socket socket;
-    socket.dump(NL80211_CMD_GET_STATION, ofInterface(interfaceIndex),
-                [&](const Nl80211Message& message) {
-                    if (!rate)
-                        rate = transmitRate(message.attributes);
-                });
-    return rate;
+    return firstOfStations(interfaceIndex, transmitRate);
 }
 
 std::optional<double> transmitRate(const NetlinkAttributes& message)

@@ -12,7 +12,7 @@ namespace tessara {
 namespace {
 
 /// A million networks with all their elements fit; what is longer is a trap for the memory.
-constexpr qsizetype kLongestLine = qsizetype{2} << 30;
+constexpr qsizetype kLongestLine = qsizetype{1} << 30;
 
 bool isBlank(const QByteArray& line)
 {

@@ -8,6 +8,12 @@
 
 namespace tessara {
 
+bool isRecordingName(const QString& path)
+{
+    return path.endsWith(QLatin1String(".jsonl"), Qt::CaseInsensitive) ||
+           path.endsWith(QLatin1String(".jsonl.gz"), Qt::CaseInsensitive);
+}
+
 RecordingWriter::RecordingWriter(const QString& path)
     : m_file(path)
 {

@@ -7,6 +7,9 @@
 
 namespace tessara {
 
+/// Whether a file of this name is a recording: it ends in ".jsonl" or ".jsonl.gz".
+bool isRecordingName(const QString& path);
+
 /// Writes a recording, scan by scan. A name that ends in ".gz" gets a compressed one. The file
 /// appears under its name, whole, when `finish` succeeds; until then, and after any fault, what
 /// stood there before is untouched.

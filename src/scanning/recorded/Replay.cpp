@@ -10,6 +10,7 @@ Replay replay(ScanReader& reader, MergeLimits limits)
         limits.weakestSignal = scan->recordsSignal ? weakestSignal : std::nullopt;
         result.networks = mergeNetworks(scan->networks, result.networks, scan->time, limits);
         result.lastScanTime = scan->time;
+        ++result.scans;
     }
     return result;
 }

@@ -10,6 +10,7 @@ namespace tessara {
 struct Replay {
     NetworkList networks;
     double lastScanTime = 0; ///< seconds since 1970; 0 if there was no scan
+    std::size_t scans = 0;
 };
 
 /// Merges the scans of a file one after the other, each at its own time, as the scan cycle would.

@@ -49,6 +49,12 @@ bool read(const QJsonValue& json, std::optional<std::int64_t>& value)
     return true;
 }
 
+bool isChannelNumber(std::int64_t number)
+{
+    constexpr std::int64_t kHighest = 0xffff; // far beyond any, and far from overflow
+    return number >= 0 && number <= kHighest;
+}
+
 bool read(const QJsonValue& json, std::optional<bool>& value)
 {
     if (!json.isBool())
@@ -109,6 +115,8 @@ std::optional<QLatin1String> readNetwork(const QJsonObject& object, ScanDictiona
         if (found != object.constEnd() && !read(*found, member) && !wrongKey)
             wrongKey = key;
     });
+    if (!wrongKey && !isChannelNumber(network.channelNumber.value_or(0)))
+        wrongKey = QLatin1String("channelNumber");
     return wrongKey;
 }
 
