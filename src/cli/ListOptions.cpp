@@ -3,7 +3,6 @@
 #include "cli/NetworksJSON.h"
 #include "cli/TableText.h"
 #include "cli/Terminal.h"
-#include "foundation/Defaults.h"
 
 #include <QTextStream>
 
@@ -98,11 +97,6 @@ ExitStatus printList(const DisplayPipeline& pipeline, const ListOptions& options
         }
     }
     return finishOutput();
-}
-
-CellContext cellContext(bool isScanning)
-{
-    return {Defaults::standard().integerForKey(DefaultKey::Units) == 1, isScanning};
 }
 
 } // namespace tessara

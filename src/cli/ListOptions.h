@@ -32,7 +32,4 @@ std::optional<ListOptions> listOptions(const QCommandLineParser& parser, QString
 ExitStatus printList(const DisplayPipeline& pipeline, const ListOptions& options,
                      const CellContext& context, double lastScanTime);
 
-/// How cells are to be shown, by the settings.
-CellContext cellContext(bool isScanning);
-
 } // namespace tessara

@@ -39,7 +39,7 @@ ExitStatus run(const QCommandLineParser& parser, const QStringList& arguments)
     pipeline.filterAndSetNetworks(result.networks);
     // What could be read is shown even where the input ends in an error.
     const ExitStatus printed =
-        printList(pipeline, *options, cellContext(false), result.lastScanTime);
+        printList(pipeline, *options, CellContext::fromDefaults(false), result.lastScanTime);
     if (input.reader->error().isEmpty())
         return printed;
     complain(input.reader->error());

@@ -25,26 +25,60 @@ void insertStatistic(QJsonObject& record, const QString& name, const RunningStat
     record[name + QStringLiteral("Max")] = number(statistic.max);
 }
 
+QJsonArray ratesJSON(const std::vector<double>& rates)
+{
+    QJsonArray array;
+    for (const double rate : rates)
+        array.append(rate);
+    return array;
+}
+
 QJsonObject recordJSON(const TSNetwork& network)
 {
     const NetworkAttributes& attributes = network.attributes();
     const auto vendor = network.vendor();
     QJsonObject record{
         {QStringLiteral("bssid"), network.bssid()},
+        {QStringLiteral("deviceid"), network.deviceid()},
+        {QStringLiteral("apid"), network.apid()},
         {QStringLiteral("vendor"), vendor ? QJsonValue(*vendor) : QJsonValue()},
         {QStringLiteral("ssid"), network.ssid()},
         {QStringLiteral("isHidden"), network.isHidden()},
         {QStringLiteral("deviceName"), textOrNull(network.deviceName())},
         {QStringLiteral("annotations"), textOrNull(network.annotations())},
+        {QStringLiteral("countryCode"), textOrNull(attributes.countryCode)},
         {QStringLiteral("channel"), number(network.channel())},
+        {QStringLiteral("channelWidth"), static_cast<int>(attributes.channelWidth)},
+        {QStringLiteral("channelCenter"), number(network.channelCenter())},
         {QStringLiteral("centerFrequency"), number(network.centerFrequency())},
-        {QStringLiteral("stationCount"), number(network.stationCount())},
-        {QStringLiteral("channelUtilization"), number(network.channelUtilization())},
+        {QStringLiteral("secondaryChannelOffset"), attributes.secondaryChannelOffset},
+        {QStringLiteral("humanReadableChannel"), network.humanReadableChannel()},
+        {QStringLiteral("humanReadableChannelRange"), network.humanReadableChannelRange().text},
+        {QStringLiteral("humanReadableChannelBand"), network.humanReadableChannelBand()},
+        {QStringLiteral("streams"), attributes.streams},
+        {QStringLiteral("stationCount"), number(attributes.stationCount)},
+        {QStringLiteral("channelUtilization"), number(attributes.channelUtilization)},
         {QStringLiteral("channelUtilizationMax"), number(attributes.channelUtilizationMax)},
+        {QStringLiteral("htProtection"), attributes.htProtection},
+        {QStringLiteral("fastBssTransition"), attributes.fastBssTransition},
         {QStringLiteral("phyMode"), number(attributes.phyMode)},
         {QStringLiteral("securityMode"),
          number(static_cast<std::int64_t>(attributes.securityMode))},
+        {QStringLiteral("shortSecurityMode"), network.shortSecurityMode()},
+        {QStringLiteral("cipherType"), attributes.cipherType},
+        {QStringLiteral("cipher"), network.cipher()},
+        {QStringLiteral("wpsEnabled"), attributes.wpsEnabled},
+        {QStringLiteral("wpsConfigured"), attributes.wpsConfigured},
+        {QStringLiteral("wpsLocked"), attributes.wpsLocked},
+        {QStringLiteral("rates"), ratesJSON(attributes.rates)},
+        {QStringLiteral("minBasicRate"), attributes.minBasicRate},
+        {QStringLiteral("maxBasicRate"), attributes.maxBasicRate},
+        {QStringLiteral("humanReadableDataRates"), network.humanReadableDataRates()},
+        {QStringLiteral("amendments"), QJsonArray::fromStringList(attributes.amendments)},
+        {QStringLiteral("ccxDTPC"), number(attributes.ccxDTPC)},
+        {QStringLiteral("ccxClientMFP"), attributes.ccxClientMFP},
         {QStringLiteral("beaconInterval"), network.beaconInterval()},
+        {QStringLiteral("estimatedMCS"), network.estimatedMCS()},
         {QStringLiteral("lastSeen"), network.lastSeen()},
         {QStringLiteral("lastSeenElapsedSeconds"), network.lastSeenElapsedSeconds()},
         {QStringLiteral("rssi"), number(network.rssi())},

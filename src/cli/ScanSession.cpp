@@ -55,7 +55,8 @@ ExitStatus ScanSession::finish()
     if (m_ownsScreen)
         QTextStream(stdout) << kLeaveScreen;
     if (!m_writer)
-        return printList(m_pipeline, m_options.list, cellContext(false), lastScanTime);
+        return printList(m_pipeline, m_options.list, CellContext::fromDefaults(false),
+                         lastScanTime);
     if (m_recorded && m_writer->finish())
         return kDone;
     complain(m_recorded ? m_writer->error() : QStringLiteral("nothing was recorded"));
@@ -96,7 +97,7 @@ void ScanSession::repaint()
     const TerminalSize size = terminalSize();
     const bool isTerminal = isStandardOutputTerminal();
     QStringList lines = tableText(m_pipeline.filteredNetworks(), m_options.list.columns,
-                                  cellContext(true), isTerminal ? size.columns : 0);
+                                  CellContext::fromDefaults(true), isTerminal ? size.columns : 0);
     QTextStream out(stdout);
     if (!isTerminal) {
         out << lines.join(u'\n') << '\n';

@@ -16,6 +16,8 @@ public:
     virtual ~VendorDirectory() = default;
     /// The maker of the access point of a normalised BSSID ("0A:1B:2C:3D:4E:5F").
     virtual std::optional<QString> vendorFor(const QString& bssid) const = 0;
+    /// The same as one word, for where space is short ("Cisco").
+    virtual std::optional<QString> shortVendorFor(const QString&) const { return std::nullopt; }
 };
 
 /// Names that devices announce about themselves on the local network.

@@ -1,5 +1,6 @@
 #include "model/ColumnRegistry.h"
 
+#include "foundation/Defaults.h"
 #include "foundation/Localized.h"
 #include "foundation/TextOrder.h"
 #include "model/SignalPercentage.h"
@@ -10,22 +11,91 @@
 
 #include <algorithm>
 #include <cmath>
+#include <type_traits>
 
 namespace tessara {
 
 namespace {
 
+// Sort keys -----------------------------------------------------------------------------------
+
+/// The value itself: a text, a number, or a time that may be absent.
+template <auto value>
+QVariant keyOf(const NetworkRow& row)
+{
+    const auto key = (row.*value)();
+    using Key = std::remove_cvref_t<decltype(key)>;
+    if constexpr (std::is_same_v<Key, std::int64_t>)
+        return QVariant::fromValue<qlonglong>(key);
+    else if constexpr (std::is_same_v<Key, std::optional<double>>)
+        return key ? QVariant(*key) : QVariant();
+    else
+        return QVariant(key);
+}
+
+QVariant noKey(const NetworkRow&)
+{
+    return {};
+}
+
 // Cell texts ----------------------------------------------------------------------------------
 
-/// A signal or a noise in the user's unit.
-QString signalText(std::int64_t dBm, const CellContext& context)
+QString noText(const NetworkRow&, const CellContext&)
 {
+    return {};
+}
+
+template <auto value>
+QString textOf(const NetworkRow& row, const CellContext&)
+{
+    return (row.*value)();
+}
+
+/// A signal or a noise in the user's unit.
+template <auto value>
+QString signalOf(const NetworkRow& row, const CellContext& context)
+{
+    const std::int64_t dBm = (row.*value)();
     return context.dBm ? QString::number(dBm) : QStringLiteral("%1%").arg(signalPercentage(dBm));
 }
 
-QString decibelText(std::int64_t decibels)
+template <auto value>
+QString decibelsOf(const NetworkRow& row, const CellContext&)
 {
-    return QStringLiteral("%1 dB").arg(decibels);
+    return QStringLiteral("%1 dB").arg((row.*value)());
+}
+
+QString withUnit(const QString& value, const QString& unit)
+{
+    return value.isEmpty() ? QString() : value + u' ' + unit;
+}
+
+template <auto value>
+QString megabitsOf(const NetworkRow& row, const CellContext&)
+{
+    return withUnit((row.*value)(), localized("Mbps"));
+}
+
+QString beaconIntervalText(const NetworkRow& row, const CellContext&)
+{
+    return withUnit(row.beaconIntervalValue(), QStringLiteral("ms"));
+}
+
+QString centerFrequencyText(const NetworkRow& row, const CellContext&)
+{
+    return withUnit(row.centerFrequencyValue(), QStringLiteral("MHz"));
+}
+
+QString streamsText(const NetworkRow& row, const CellContext&)
+{
+    const QString streams = row.streamsValue();
+    return streams == QLatin1String("0") ? QString() : streams;
+}
+
+QString channelUtilizationText(const NetworkRow& row, const CellContext&)
+{
+    const std::int64_t percent = row.channelUtilizationValue();
+    return percent < 0 ? QString() : QStringLiteral("%1%").arg(percent);
 }
 
 QDateTime dateOf(double time)
@@ -33,20 +103,25 @@ QDateTime dateOf(double time)
     return QDateTime::fromMSecsSinceEpoch(std::llround(time * 1000));
 }
 
-QString timeText(double time)
+template <auto value>
+QString timeOf(const NetworkRow& row, const CellContext&)
 {
-    return QLocale::c().toString(dateOf(time), QStringLiteral("yyyy/MM/dd hh:mm:ss AP"));
+    const std::optional<double> time = (row.*value)();
+    return time ? QLocale::c().toString(dateOf(*time), QStringLiteral("yyyy/MM/dd hh:mm:ss AP"))
+                : QString();
 }
 
-QString seenText(const TSNetwork& network, const CellContext& context)
+QString seenText(const NetworkRow& row, const CellContext& context)
 {
-    if (!context.isScanning)
-        return QLocale().toString(dateOf(network.lastSeen()), QLocale::ShortFormat);
+    if (!context.isScanning) {
+        const auto time = row.lastSeenValue();
+        return time ? QLocale().toString(dateOf(*time), QLocale::ShortFormat) : QString();
+    }
     constexpr std::int64_t kMinute = 60;
     constexpr std::int64_t kHour = 3600;
     const auto elapsed =
-        static_cast<std::int64_t>(std::floor(network.lastSeenElapsedSeconds() + 0.5));
-    if (elapsed < 1 && network.rssi() != TSDataPoint::kNoData)
+        static_cast<std::int64_t>(std::floor(row.lastSeenElapsedSecondsValue() + 0.5));
+    if (elapsed < 1 && row.bestNetwork().rssi() != TSDataPoint::kNoData)
         return localized("Just now");
     // Steps of 5 seconds keep the column calm.
     const std::int64_t seconds = std::max<std::int64_t>(elapsed / 5 * 5, 2);
@@ -57,139 +132,208 @@ QString seenText(const TSNetwork& network, const CellContext& context)
     return localized("%1 hours ago").arg(seconds / kHour); // one hour too: the plural is meant
 }
 
-QString beaconIntervalText(const TSNetwork& network)
-{
-    const float milliseconds = network.beaconInterval();
-    return milliseconds > 0 ? QString::number(milliseconds, 'f', 1) : QString();
-}
-
-QString withUnit(const QString& value, const char* unit)
-{
-    return value.isEmpty() ? QString() : value + u' ' + QLatin1String(unit);
-}
-
-QString networkTypeText(const TSNetwork& network)
-{
-    return localized(network.isAdHoc() ? "Ad-Hoc" : "Infrastructure");
-}
-
-QString bandText(const TSNetwork& network)
-{
-    return QLatin1String(bandInfo(network.channelBand()).shortName);
-}
-
 // The table -----------------------------------------------------------------------------------
 
-// A column whose cell shows its sort key.
-#define TEXT_OF(expression)                                                                        \
-    [](const TSNetwork& n) { return QVariant(expression); },                                       \
-        [](const TSNetwork& n, const CellContext&) -> QString { return expression; }
-#define SIGNAL_OF(expression)                                                                      \
-    [](const TSNetwork& n) { return QVariant::fromValue<qlonglong>(expression); },                 \
-        [](const TSNetwork& n, const CellContext& context) {                                       \
-            return signalText(expression, context);                                                \
-        }
-#define DECIBELS_OF(expression)                                                                    \
-    [](const TSNetwork& n) { return QVariant::fromValue<qlonglong>(expression); },                 \
-        [](const TSNetwork& n, const CellContext&) { return decibelText(expression); }
+constexpr bool kHidden = true;
+constexpr bool kShown = false;
+constexpr bool kRight = true;
+constexpr bool kLeft = false;
+constexpr double kMinimum = 40;
 
-constexpr double kMinimumWidth = 40;
+template <auto value>
+Column textColumn(const char* identifier, const char* title, const char* description, bool hidden,
+                  double width, Comparison comparison, bool alignsRight = kLeft)
+{
+    return {QString::fromLatin1(identifier),
+            title,
+            description,
+            hidden,
+            width,
+            kMinimum,
+            comparison,
+            CellKind::kText,
+            alignsRight,
+            keyOf<value>,
+            textOf<value>};
+}
+
+/// A column of readings: its cells are bars if it has a minimum width of its own for them.
+template <auto value>
+Column readingColumn(const char* identifier, const char* title, const char* description,
+                     bool hidden, QString (*text)(const NetworkRow&, const CellContext&),
+                     double width = 0, double barMinimum = 0)
+{
+    const bool isLevel = barMinimum > 0;
+    return {QString::fromLatin1(identifier),
+            title,
+            description,
+            hidden,
+            width,
+            isLevel ? barMinimum : kMinimum,
+            Comparison::kNumber,
+            isLevel ? CellKind::kLevel : CellKind::kText,
+            kLeft,
+            keyOf<value>,
+            text};
+}
+
+/// The same column with cells that do not show the value as it stands.
+Column showing(Column column, QString (*text)(const NetworkRow&, const CellContext&))
+{
+    column.text = text;
+    return column;
+}
+
+Column with(Column column, CellKind cell)
+{
+    column.cell = cell;
+    return column;
+}
 
 std::vector<Column> makeRegistry()
 {
+    using Row = NetworkRow;
     using enum Comparison;
-    using enum CellKind;
-    constexpr bool kHidden = true;
-    constexpr bool kShown = false;
-    constexpr bool kRight = true;
-    constexpr bool kLeft = false;
     return {
         {QStringLiteral("IS_USER_HIDDEN"), "", "The colour of the network in the charts.", kShown,
-         4, 4, kNone, kMarker, kLeft, [](const TSNetwork&) { return QVariant(); },
-         [](const TSNetwork&, const CellContext&) { return QString(); }},
-        {QStringLiteral("BSSID"), "BSSID",
-         "The address of the access point's radio, the identifier of the basic service set.",
-         kShown, 172, kMinimumWidth, kStandard, kText, kLeft, TEXT_OF(n.bssid())},
-        {QStringLiteral("SSID"), "Network Name",
-         "The name that the network announces (SSID). A padlock marks a protected network.", kShown,
-         160, kMinimumWidth, kStandard, kTextAndImage, kLeft, TEXT_OF(n.ssid())},
-        {QStringLiteral("BEACON_INT"), "Beacon Interval",
-         "Time between two beacons of the access point.", kHidden, 110, kMinimumWidth, kStandard,
-         kText, kRight, [](const TSNetwork& n) { return QVariant(beaconIntervalText(n)); },
-         [](const TSNetwork& n, const CellContext&) {
-             return withUnit(beaconIntervalText(n), "ms");
-         }},
-        {QStringLiteral("DEVICE_NAME"), "Device Name",
-         "The name that the access point gives itself, in its beacons or on the local network.",
-         kHidden, 120, kMinimumWidth, kCaseInsensitive, kText, kLeft, TEXT_OF(n.deviceName())},
-        {QStringLiteral("VENDOR"), "Vendor", "The maker of the access point, told by its BSSID.",
-         kShown, 160, kMinimumWidth, kCaseInsensitive, kText, kLeft,
-         TEXT_OF(n.vendor().value_or(QString()))},
-        {QStringLiteral("ANNOTATIONS"), "Annotations", "Your own note on this network.", kHidden, 0,
-         kMinimumWidth, kCaseInsensitive, kText, kLeft, TEXT_OF(n.annotations())},
-        {QStringLiteral("RSSI"), "Signal", "The last signal strength received.", kShown, 135, 60,
-         kNumber, kLevel, kLeft, SIGNAL_OF(n.rssiLast())},
-        {QStringLiteral("RSSI_AVG"), "Avg Signal", "The average of all signal readings.", kHidden,
-         0, kMinimumWidth, kNumber, kText, kLeft, SIGNAL_OF(n.rssiStatistic().avg)},
-        {QStringLiteral("RSSI_MIN"), "Min Signal", "The weakest signal read.", kHidden, 0,
-         kMinimumWidth, kNumber, kText, kLeft, SIGNAL_OF(n.rssiStatistic().min)},
-        {QStringLiteral("RSSI_MAX"), "Max Signal", "The strongest signal read.", kHidden, 0,
-         kMinimumWidth, kNumber, kText, kLeft, SIGNAL_OF(n.rssiStatistic().max)},
-        {QStringLiteral("NOISE"), "Noise", "The last noise level measured on the channel.", kHidden,
-         0, 60, kNumber, kLevel, kLeft, SIGNAL_OF(n.noiseLast())},
-        {QStringLiteral("NOISE_AVG"), "Avg Noise", "The average of all noise readings.", kHidden, 0,
-         kMinimumWidth, kNumber, kText, kLeft, SIGNAL_OF(n.noiseStatistic().avg)},
-        {QStringLiteral("NOISE_MIN"), "Min Noise", "The lowest noise read.", kHidden, 0,
-         kMinimumWidth, kNumber, kText, kLeft, SIGNAL_OF(n.noiseStatistic().min)},
-        {QStringLiteral("NOISE_MAX"), "Max Noise", "The highest noise read.", kHidden, 0,
-         kMinimumWidth, kNumber, kText, kLeft, SIGNAL_OF(n.noiseStatistic().max)},
-        {QStringLiteral("SNR"), "SNR", "The last ratio of signal to noise.", kHidden, 0, 75,
-         kNumber, kLevel, kLeft, DECIBELS_OF(n.snrLast())},
-        {QStringLiteral("SNR_AVG"), "Avg SNR", "The average ratio of signal to noise.", kHidden, 0,
-         kMinimumWidth, kNumber, kText, kLeft, DECIBELS_OF(n.snrStatistic().avg)},
-        {QStringLiteral("SNR_MIN"), "Min SNR", "The lowest ratio of signal to noise.", kHidden, 0,
-         kMinimumWidth, kNumber, kText, kLeft, DECIBELS_OF(n.snrStatistic().min)},
-        {QStringLiteral("SNR_MAX"), "Max SNR", "The highest ratio of signal to noise.", kHidden, 0,
-         kMinimumWidth, kNumber, kText, kLeft, DECIBELS_OF(n.snrStatistic().max)},
-        {QStringLiteral("CHANNEL"), "Channel", "The primary channel.", kShown, 0, kMinimumWidth,
-         kStandard, kText, kRight, TEXT_OF(QString::number(n.channel()))},
-        {QStringLiteral("CENTER_FREQUENCY"), "Center Frequency",
-         "The centre frequency of the primary channel.", kHidden, 0, kMinimumWidth, kStandard,
-         kText, kRight,
-         [](const TSNetwork& n) { return QVariant(QString::number(n.centerFrequency())); },
-         [](const TSNetwork& n, const CellContext&) {
-             return withUnit(QString::number(n.centerFrequency()), "MHz");
-         }},
-        {QStringLiteral("CHANNEL_BAND"), "Band", "The frequency band of the channel.", kShown, 0,
-         kMinimumWidth, kStandard, kText, kRight, TEXT_OF(bandText(n))},
-        {QStringLiteral("NETWORK_TYPE"), "Network Type",
-         "Infrastructure for an access point, Ad-Hoc for stations among themselves.", kHidden, 0,
-         kMinimumWidth, kCaseInsensitive, kText, kLeft, TEXT_OF(networkTypeText(n))},
-        {QStringLiteral("FIRST_SEEN"), "First Seen", "Time of the first sample of the history.",
-         kHidden, 130, kMinimumWidth, kNumber, kText, kLeft,
-         [](const TSNetwork& n) {
-             const auto first = n.firstDataPoint();
-             return first ? QVariant(first->timestamp()) : QVariant();
-         },
-         [](const TSNetwork& n, const CellContext&) {
-             const auto first = n.firstDataPoint();
-             return first ? timeText(first->timestamp()) : QString();
-         }},
-        {QStringLiteral("LAST_SEEN"), "Last Seen", "Time of the last scan that saw the network.",
-         kHidden, 130, kMinimumWidth, kNumber, kText, kLeft,
-         [](const TSNetwork& n) { return QVariant(n.lastSeen()); },
-         [](const TSNetwork& n, const CellContext&) { return timeText(n.lastSeen()); }},
-        {QStringLiteral("SEEN"), "Seen", "How long ago the network was last seen.", kShown, 130,
-         kMinimumWidth, kNumber, kText, kLeft,
-         [](const TSNetwork& n) { return QVariant(n.lastSeenElapsedSeconds()); }, seenText},
+         4, 4, kNone, CellKind::kMarker, kLeft, noKey, noText},
+        textColumn<&Row::bssidValue>(
+            "BSSID", "BSSID",
+            "The address of the access point's radio, the identifier of the basic service set.",
+            kShown, 172, kStandard),
+        with(textColumn<&Row::ssidValue>(
+                 "SSID", "Network Name",
+                 "The name that the network announces (SSID). A padlock marks a protected network.",
+                 kShown, 160, kStandard),
+             CellKind::kTextAndImage),
+        showing(
+            textColumn<&Row::beaconIntervalValue>("BEACON_INT", "Beacon Interval",
+                                                  "Time between two beacons of the access point.",
+                                                  kHidden, 110, kStandard, kRight),
+            beaconIntervalText),
+        textColumn<&Row::deviceNameValue>(
+            "DEVICE_NAME", "Device Name",
+            "The name that the access point gives itself, in its beacons or on the local network.",
+            kHidden, 120, kCaseInsensitive),
+        textColumn<&Row::vendorValue>("VENDOR", "Vendor",
+                                      "The maker of the access point, told by its BSSID.", kShown,
+                                      160, kCaseInsensitive),
+        textColumn<&Row::annotationsValue>("ANNOTATIONS", "Annotations",
+                                           "Your own note on this network.", kHidden, 0,
+                                           kCaseInsensitive),
+        readingColumn<&Row::rssiValue>("RSSI", "Signal", "The last signal strength received.",
+                                       kShown, signalOf<&Row::rssiValue>, 135, 60),
+        readingColumn<&Row::rssiAvgValue>("RSSI_AVG", "Avg Signal",
+                                          "The average of all signal readings.", kHidden,
+                                          signalOf<&Row::rssiAvgValue>),
+        readingColumn<&Row::rssiMinValue>("RSSI_MIN", "Min Signal", "The weakest signal read.",
+                                          kHidden, signalOf<&Row::rssiMinValue>),
+        readingColumn<&Row::rssiMaxValue>("RSSI_MAX", "Max Signal", "The strongest signal read.",
+                                          kHidden, signalOf<&Row::rssiMaxValue>),
+        readingColumn<&Row::noiseValue>("NOISE", "Noise",
+                                        "The last noise level measured on the channel.", kHidden,
+                                        signalOf<&Row::noiseValue>, 0, 60),
+        readingColumn<&Row::noiseAvgValue>("NOISE_AVG", "Avg Noise",
+                                           "The average of all noise readings.", kHidden,
+                                           signalOf<&Row::noiseAvgValue>),
+        readingColumn<&Row::noiseMinValue>("NOISE_MIN", "Min Noise", "The lowest noise read.",
+                                           kHidden, signalOf<&Row::noiseMinValue>),
+        readingColumn<&Row::noiseMaxValue>("NOISE_MAX", "Max Noise", "The highest noise read.",
+                                           kHidden, signalOf<&Row::noiseMaxValue>),
+        readingColumn<&Row::snrValue>("SNR", "SNR", "The last ratio of signal to noise.", kHidden,
+                                      decibelsOf<&Row::snrValue>, 0, 75),
+        readingColumn<&Row::snrAvgValue>("SNR_AVG", "Avg SNR",
+                                         "The average ratio of signal to noise.", kHidden,
+                                         decibelsOf<&Row::snrAvgValue>),
+        readingColumn<&Row::snrMinValue>("SNR_MIN", "Min SNR",
+                                         "The lowest ratio of signal to noise.", kHidden,
+                                         decibelsOf<&Row::snrMinValue>),
+        readingColumn<&Row::snrMaxValue>("SNR_MAX", "Max SNR",
+                                         "The highest ratio of signal to noise.", kHidden,
+                                         decibelsOf<&Row::snrMaxValue>),
+        textColumn<&Row::channelValue>("CHANNEL", "Channel", "The primary channel.", kShown, 0,
+                                       kStandard, kRight),
+        showing(textColumn<&Row::centerFrequencyValue>(
+                    "CENTER_FREQUENCY", "Center Frequency",
+                    "The centre frequency of the primary channel.", kHidden, 0, kStandard, kRight),
+                centerFrequencyText),
+        textColumn<&Row::channelCenterValue>(
+            "CHANNEL_CENTER", "Center Channel",
+            "The channel number at the centre of all that the network occupies.", kHidden, 0,
+            kStandard, kRight),
+        textColumn<&Row::channelWidthValue>("CHANNEL_WIDTH", "Width",
+                                            "The width of the channel that the network uses.",
+                                            kShown, 0, kStandard, kRight),
+        textColumn<&Row::channelBandValue>("CHANNEL_BAND", "Band",
+                                           "The frequency band of the channel.", kShown, 0,
+                                           kStandard, kRight),
+        showing(textColumn<&Row::streamsValue>(
+                    "STREAMS", "Streams",
+                    "The most spatial streams that the access point can send at once.", kHidden, 0,
+                    kStandard, kRight),
+                streamsText),
+        textColumn<&Row::stationCountValue>(
+            "STATION_COUNT", "Stations",
+            "Stations associated with the access point, as it announces them.", kHidden, 0,
+            kStandard, kRight),
+        readingColumn<&Row::channelUtilizationValue>(
+            "CHANNEL_UTILIZATION", "Ch. Utilization",
+            "The share of time in which the channel is busy, as the access point announces it.",
+            kHidden, channelUtilizationText, 125, 60),
+        textColumn<&Row::phyModeValue>("PHY_MODE", "Mode",
+                                       "The physical layers in use, by the letters of 802.11.",
+                                       kShown, 0, kStandard),
+        textColumn<&Row::htProtectionValue>(
+            "HT_PROTECTION", "HT Protection",
+            "How 802.11n transmissions are protected from older or narrower stations.", kHidden, 0,
+            kCaseInsensitive),
+        textColumn<&Row::fastBssTransitionValue>(
+            "FAST_BSS_TRANSITION", "Fast Transition",
+            "How stations may change over to another access point (802.11r): over the air (OTA) or "
+            "over the distribution system (OTD).",
+            kHidden, 0, kCaseInsensitive),
+        textColumn<&Row::countryCodeValue>("CC", "Country",
+                                           "The country whose rules the access point announces.",
+                                           kHidden, 0, kCaseInsensitive),
+        showing(textColumn<&Row::basicDataRatesValue>(
+                    "BASIC_RATES", "Basic Rates",
+                    "The rates that every station of the network must support.", kHidden, 0,
+                    kStandard),
+                megabitsOf<&Row::basicDataRatesValue>),
+        showing(textColumn<&Row::minRateValue>("MIN_RATE", "Min Rate", "The lowest rate announced.",
+                                               kHidden, 0, kStandard, kRight),
+                megabitsOf<&Row::minRateValue>),
+        showing(textColumn<&Row::maxRateValue>("MAX_RATE", "Max Rate",
+                                               "The highest rate that follows from what the access "
+                                               "point announces.",
+                                               kShown, 0, kStandard, kRight),
+                megabitsOf<&Row::maxRateValue>),
+        textColumn<&Row::securityValue>("SECURITY_MODE", "Security",
+                                        "How the network is protected; empty if it is open.",
+                                        kShown, 0, kCaseInsensitive),
+        textColumn<&Row::wpsValue>("WPS", "WPS", "The state of Wi-Fi Protected Setup.", kHidden, 0,
+                                   kStandard),
+        textColumn<&Row::networkTypeValue>(
+            "NETWORK_TYPE", "Network Type",
+            "Infrastructure for an access point, Ad-Hoc for stations among themselves.", kHidden, 0,
+            kCaseInsensitive),
+        readingColumn<&Row::firstSeenValue>("FIRST_SEEN", "First Seen",
+                                            "Time of the first sample of the history.", kHidden,
+                                            timeOf<&Row::firstSeenValue>, 130),
+        readingColumn<&Row::lastSeenValue>("LAST_SEEN", "Last Seen",
+                                           "Time of the last scan that saw the network.", kHidden,
+                                           timeOf<&Row::lastSeenValue>, 130),
+        readingColumn<&Row::lastSeenElapsedSecondsValue>(
+            "SEEN", "Seen", "How long ago the network was last seen.", kShown, seenText, 130),
     };
 }
 
-#undef TEXT_OF
-#undef SIGNAL_OF
-#undef DECIBELS_OF
-
 } // namespace
+
+CellContext CellContext::fromDefaults(bool isScanning)
+{
+    return {Defaults::standard().integerForKey(DefaultKey::Units) == 1, isScanning};
+}
 
 std::span<const Column> columnRegistry()
 {

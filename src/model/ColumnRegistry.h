@@ -8,7 +8,7 @@
 
 namespace tessara {
 
-class TSNetwork;
+class NetworkRow;
 
 /// How two sort keys of a column are told apart.
 enum class Comparison {
@@ -24,6 +24,9 @@ enum class CellKind { kMarker, kText, kTextAndImage, kLevel };
 struct CellContext {
     bool dBm = false;        ///< signals in dBm instead of per cent
     bool isScanning = false; ///< "Just now" and "5 sec ago" instead of a date
+
+    /// In the unit that the settings say.
+    static CellContext fromDefaults(bool isScanning);
 };
 
 /// One column of the list of networks. The table, its header menu, CSV, the clipboard and the
@@ -38,8 +41,8 @@ struct Column {
     Comparison comparison;
     CellKind cell;
     bool alignsRight;
-    QVariant (*sortKey)(const TSNetwork&);
-    QString (*text)(const TSNetwork&, const CellContext&);
+    QVariant (*sortKey)(const NetworkRow&);
+    QString (*text)(const NetworkRow&, const CellContext&);
 };
 
 /// All columns in the order in which a fresh table shows them.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/ChannelWidth.h"
+#include "model/ScanDictionary.h"
 #include "model/SecurityMode.h"
 
 #include <QString>
@@ -39,5 +40,11 @@ struct NetworkAttributes {
     std::int64_t ccxDTPC = -1; ///< client transmit power in dBm; -1: not announced
     QString ccxClientMFP;      ///< "Enabled", "Disabled" or empty
 };
+
+/// What a raw scan dictionary says of a network, beyond itself: the meaning of its element bytes.
+/// Bytes from the air may be cut anywhere: an element that runs past their end ends the reading,
+/// a field beyond it is absent.
+/// @param previous the attributes so far: some outlive the scan
+NetworkAttributes attributesOf(const ScanDictionary& dictionary, const NetworkAttributes& previous);
 
 } // namespace tessara

@@ -3,6 +3,7 @@
 #include "foundation/Defaults.h"
 #include "foundation/Directories.h"
 #include "foundation/Localized.h"
+#include "model/AccessPointIdentity.h"
 #include "model/NetworkColors.h"
 #include "model/SignalPercentage.h"
 
@@ -46,9 +47,7 @@ TSNetwork::TSNetwork(ScanDictionary dictionary, double now)
 void TSNetwork::setNetwork(ScanDictionary dictionary)
 {
     m_network = std::move(dictionary);
-    m_attributes.phyMode = m_network.phyMode.value_or(0);
-    m_attributes.securityMode = static_cast<SecurityMode>(
-        m_network.securityMode.value_or(static_cast<std::int64_t>(SecurityMode::kUnknown)));
+    m_attributes = attributesOf(m_network, m_attributes);
     m_keyHash = NetworkKey::Hash()(keyOf(m_network, channelBand()));
 }
 
@@ -57,6 +56,23 @@ const QString& TSNetwork::bssid() const
     if (m_bssid.isEmpty() && m_network.bssid)
         m_bssid = normalizedBSSID(*m_network.bssid);
     return m_bssid;
+}
+
+const QString& TSNetwork::deviceid() const
+{
+    if (m_deviceid.isEmpty()) {
+        const VendorDirectory* directory = Directories::installed().vendors;
+        m_deviceid = deviceIdentifier(bssid(), directory ? directory->shortVendorFor(bssid())
+                                                         : std::nullopt);
+    }
+    return m_deviceid;
+}
+
+const QString& TSNetwork::apid() const
+{
+    if (m_apid.isEmpty())
+        m_apid = accessPointIdentifier(bssid(), deviceid(), vendor());
+    return m_apid;
 }
 
 QString TSNetwork::ssid() const

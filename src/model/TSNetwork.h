@@ -3,6 +3,8 @@
 #include "model/Band.h"
 #include "model/NetworkAttributes.h"
 #include "model/NetworkKey.h"
+#include "model/NetworkRow.h"
+#include "model/OccupiedChannels.h"
 #include "model/RunningStatistic.h"
 #include "model/ScanDictionary.h"
 #include "model/TSDataPoint.h"
@@ -23,7 +25,7 @@ namespace tessara {
 /// Created when a scan first reports it, it lives until the scan cycle drops it. Each later scan
 /// replaces its raw scan dictionary and appends one sample; everything else is derived. Records
 /// belong to the main thread.
-class TSNetwork {
+class TSNetwork final : public NetworkRow {
 public:
     /// The longest history: at one sample every two seconds, some 18 hours.
     static constexpr std::size_t kMaxDataPoints = 32769;
@@ -54,6 +56,10 @@ public:
 
     /// Upper case, two digits an octet: 0:1a:2:3:4b:5 is 00:1A:02:03:4B:05.
     const QString& bssid() const;
+    /// The readable form of the address, "Cisco:33:44:55", as it was when first asked for.
+    const QString& deviceid() const;
+    /// Equal for all networks of one access point, as it was when first asked for.
+    const QString& apid() const;
     /// The name; `hiddenSSID` for a network that announces none.
     QString ssid() const;
     bool isHidden() const;
@@ -84,6 +90,41 @@ public:
     const NetworkAttributes& attributes() const { return m_attributes; }
     std::int64_t stationCount() const { return m_attributes.stationCount; }
     std::int64_t channelUtilization() const { return m_attributes.channelUtilization; }
+
+    ChannelPlace channelPlace() const
+    {
+        return {channel(), m_attributes.channelWidth, m_attributes.secondaryChannelOffset};
+    }
+    std::int64_t channelCenter() const { return tessara::channelCenter(channelPlace()); }
+    QString humanReadableChannel() const { return tessara::humanReadableChannel(channelPlace()); }
+    ChannelRangeText humanReadableChannelRange() const
+    {
+        return tessara::humanReadableChannelRange(channelPlace());
+    }
+    QString humanReadableChannelBand() const;
+    QString shortChannelBand() const;
+    QString humanReadableChannelWidth() const;
+    QString phyMode() const; ///< "b/g/n"
+    QString humanReadableHtProtection() const;
+    QString humanReadableFastBssTransition() const;
+    QString networkType() const;
+    /// The highest MCS index that the last ratio of signal to noise allows; -1 if none.
+    int estimatedMCS() const;
+
+    // Rates, in Mbit/s ------------------------------------------------------------------------
+
+    float minRate() const;
+    float maxRate() const;
+    QString humanReadableDataRates() const;
+    QString humanReadableBasicDataRates() const;
+
+    // Security --------------------------------------------------------------------------------
+
+    const SecurityModeInfo& security() const { return securityModeInfo(m_attributes.securityMode); }
+    QString securityMode() const;
+    QString shortSecurityMode() const;
+    QString cipher() const;
+    bool isOpen() const { return security().isOpen; }
 
     // Samples ---------------------------------------------------------------------------------
 
@@ -145,6 +186,49 @@ public:
     bool isAssociated() const { return m_associated; }
     void setAssociated(bool associated) { m_associated = associated; }
 
+    // The values of the columns ---------------------------------------------------------------
+
+    QString bssidValue() const override { return bssid(); }
+    QString ssidValue() const override { return ssid(); }
+    QString deviceNameValue() const override { return deviceName(); }
+    QString vendorValue() const override { return vendor().value_or(QString()); }
+    QString annotationsValue() const override { return annotations(); }
+    std::int64_t rssiValue() const override { return rssiLast(); }
+    std::int64_t rssiAvgValue() const override { return m_rssi.avg; }
+    std::int64_t rssiMinValue() const override { return m_rssi.min; }
+    std::int64_t rssiMaxValue() const override { return m_rssi.max; }
+    std::int64_t noiseValue() const override { return noiseLast(); }
+    std::int64_t noiseAvgValue() const override { return m_noise.avg; }
+    std::int64_t noiseMinValue() const override { return m_noise.min; }
+    std::int64_t noiseMaxValue() const override { return m_noise.max; }
+    std::int64_t snrValue() const override { return snrLast(); }
+    std::int64_t snrAvgValue() const override { return m_snr.avg; }
+    std::int64_t snrMinValue() const override { return m_snr.min; }
+    std::int64_t snrMaxValue() const override { return m_snr.max; }
+    QString channelValue() const override { return QString::number(channel()); }
+    QString channelCenterValue() const override { return QString::number(channelCenter()); }
+    QString channelBandValue() const override { return shortChannelBand(); }
+    QString channelWidthValue() const override { return humanReadableChannelWidth(); }
+    QString centerFrequencyValue() const override { return QString::number(centerFrequency()); }
+    QString streamsValue() const override { return QString::number(m_attributes.streams); }
+    QString stationCountValue() const override;
+    std::int64_t channelUtilizationValue() const override { return channelUtilization(); }
+    QString phyModeValue() const override { return phyMode(); }
+    QString htProtectionValue() const override { return humanReadableHtProtection(); }
+    QString fastBssTransitionValue() const override { return humanReadableFastBssTransition(); }
+    QString countryCodeValue() const override { return m_attributes.countryCode; }
+    QString basicDataRatesValue() const override { return humanReadableBasicDataRates(); }
+    QString minRateValue() const override;
+    QString maxRateValue() const override;
+    QString securityValue() const override { return shortSecurityMode(); }
+    QString wpsValue() const override;
+    QString networkTypeValue() const override { return networkType(); }
+    QString beaconIntervalValue() const override;
+    std::optional<double> firstSeenValue() const override;
+    std::optional<double> lastSeenValue() const override { return m_lastSeen; }
+    double lastSeenElapsedSecondsValue() const override { return m_lastSeenElapsedSeconds; }
+    const TSNetwork& bestNetwork() const override { return *this; }
+
 private:
     using Reading = std::int64_t (TSDataPoint::*)() const;
     std::int64_t current(Reading reading) const;
@@ -183,6 +267,8 @@ private:
 
     // Computed on first use.
     mutable QString m_bssid;
+    mutable QString m_deviceid;
+    mutable QString m_apid;
     mutable std::optional<QString> m_vendor;
     mutable std::optional<QString> m_annotations;
 

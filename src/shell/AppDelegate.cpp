@@ -217,8 +217,7 @@ void AppDelegate::configureNetworksView()
     table.setPlaceholderText(localized(
         m_scanCycle.isScanning() ? "No networks yet" : "Press Scan to look for networks"));
     table.setNetworks(m_pipeline.filteredNetworks(),
-                      {.dBm = defaults.integerForKey(DefaultKey::Units) != 0,
-                       .isScanning = m_scanCycle.isScanning()});
+                      CellContext::fromDefaults(m_scanCycle.isScanning()));
 }
 
 void AppDelegate::selectAssociatedNetworks()
