@@ -11,11 +11,11 @@ namespace tessara {
 
 namespace {
 
-// More steps than this cost more than one change of the whole layout. Each costs the more the
-// more indexes the views hold: at the first move a selection model takes one for each cell of each
-// selected row.
+// More steps than this cost more than one change of the whole layout, and so does a single step
+// where views hold more indexes than this: at a move, a selection model takes one for each cell of
+// each selected row, and a hundred selected rows make a move last a third of a second.
 constexpr std::size_t kMaxSteps = 50;
-constexpr std::size_t kMaxIndexesInSteps = 200;
+constexpr qsizetype kMaxIndexes = 16;
 
 constexpr int kGone = -1;
 
@@ -115,8 +115,7 @@ void NetworksTableModel::setNetworks(const NetworkList& networks, const CellCont
     m_context = context;
     if (networks != m_networks) {
         const Changes changes(m_networks, networks);
-        const auto indexes = static_cast<std::size_t>(persistentIndexList().size());
-        if (changes.steps() <= kMaxSteps && changes.steps() * indexes <= kMaxIndexesInSteps) {
+        if (changes.steps() <= kMaxSteps && persistentIndexList().size() <= kMaxIndexes) {
             removeRuns(changes);
             moveRuns(changes, networks);
             insertRuns(changes, networks);
