@@ -13,15 +13,7 @@ public:
     void add(char letter) { m_letters |= std::uint32_t{1} << (letter - 'a'); }
 
     /// In the order of the alphabet.
-    QStringList letters() const
-    {
-        QStringList result;
-        for (char letter = 'a'; letter <= 'z'; ++letter) {
-            if (m_letters & std::uint32_t{1} << (letter - 'a'))
-                result += QString(QLatin1Char(letter));
-        }
-        return result;
-    }
+    QStringList letters() const;
 
 private:
     std::uint32_t m_letters = 0;

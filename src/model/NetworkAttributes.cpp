@@ -162,9 +162,9 @@ QString countryText(Bytes code)
 /// Reads one dictionary. The walks over its elements come in an order that later ones rely on.
 class Derivation {
 public:
-    Derivation(const ScanDictionary& dictionary, const NetworkAttributes& previous)
+    Derivation(const ScanDictionary& dictionary, NetworkAttributes previous)
         : m_dictionary(dictionary)
-        , m_result(previous)
+        , m_result(std::move(previous))
     {
         resetWhatEachScanTells();
     }
@@ -647,9 +647,9 @@ private:
 
 } // namespace
 
-NetworkAttributes attributesOf(const ScanDictionary& dictionary, const NetworkAttributes& previous)
+NetworkAttributes attributesOf(const ScanDictionary& dictionary, NetworkAttributes previous)
 {
-    return Derivation(dictionary, previous).run();
+    return Derivation(dictionary, std::move(previous)).run();
 }
 
 } // namespace tessara

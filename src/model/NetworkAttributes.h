@@ -45,6 +45,6 @@ struct NetworkAttributes {
 /// Bytes from the air may be cut anywhere: an element that runs past their end ends the reading,
 /// a field beyond it is absent.
 /// @param previous the attributes so far: some outlive the scan
-NetworkAttributes attributesOf(const ScanDictionary& dictionary, const NetworkAttributes& previous);
+NetworkAttributes attributesOf(const ScanDictionary& dictionary, NetworkAttributes previous);
 
 } // namespace tessara

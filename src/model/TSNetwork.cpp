@@ -47,7 +47,7 @@ TSNetwork::TSNetwork(ScanDictionary dictionary, double now)
 void TSNetwork::setNetwork(ScanDictionary dictionary)
 {
     m_network = std::move(dictionary);
-    m_attributes = attributesOf(m_network, m_attributes);
+    m_attributes = attributesOf(m_network, std::move(m_attributes));
     m_keyHash = NetworkKey::Hash()(keyOf(m_network, channelBand()));
 }
 
