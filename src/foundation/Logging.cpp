@@ -3,6 +3,7 @@
 namespace tessara {
 
 Q_LOGGING_CATEGORY(lcFoundation, "tessara.foundation")
+Q_LOGGING_CATEGORY(lcPersistence, "tessara.persistence")
 Q_LOGGING_CATEGORY(lcScanning, "tessara.scanning")
 Q_LOGGING_CATEGORY(lcShell, "tessara.shell")
 

@@ -4,6 +4,7 @@
 #include <QStringList>
 
 #include <functional>
+#include <utility>
 
 namespace tessara {
 
@@ -27,7 +28,9 @@ struct TSAlert {
 class UserPrompt {
 public:
     using Answer = std::function<void(int returnCode)>;
+    using SuppressibleAnswer = std::function<void(int returnCode, bool suppressed)>;
     using AlertId = int;
+    using ProgressId = int;
 
     virtual ~UserPrompt() = default;
 
@@ -35,6 +38,24 @@ public:
     virtual AlertId beginAlert(const TSAlert& alert, Answer answer) = 0;
     /// Takes an alert away without an answer; nothing happens if it is gone already.
     virtual void endAlert(AlertId alert) = 0;
+
+    /// Shows an alert with a check box by which the user asks not to be asked again; `answer`
+    /// gets its state too. A prompt without check boxes asks without one.
+    virtual AlertId beginSuppressibleAlert(const TSAlert& alert, SuppressibleAnswer answer)
+    {
+        return beginAlert(alert, [answer = std::move(answer)](int code) { answer(code, false); });
+    }
+
+    /// Shows that something goes on that the user waits for, until `endProgress`.
+    virtual ProgressId beginProgress(const QString& /*message*/) { return 0; }
+    virtual void endProgress(ProgressId /*progress*/) {}
+
+    /// Tells of something that needs no answer, in the desktop's notification area.
+    /// @return false if there is none; the caller then shows an alert
+    virtual bool deliverNotification(const QString& /*title*/, const QString& /*text*/)
+    {
+        return false;
+    }
 };
 
 } // namespace tessara

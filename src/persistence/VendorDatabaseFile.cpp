@@ -1,0 +1,82 @@
+#include "persistence/VendorDatabaseFile.h"
+
+#include "foundation/Localized.h"
+#include "foundation/Logging.h"
+#include "persistence/VendorsArchive.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QSaveFile>
+
+#include <algorithm>
+
+namespace tessara {
+
+namespace {
+
+/// Writes the archive's property list, once it has proved to be a database. The file has the date
+/// that the archive gives it: by that date newer ones are told.
+bool expand(const QString& archivePath, const QString& path, QString& error)
+{
+    const auto archive = VendorsArchive::read(archivePath, error);
+    if (!archive || !VendorTable::fromPropertyList(archive->propertyList, error))
+        return false;
+    QSaveFile file(path);
+    if (file.open(QIODevice::WriteOnly) && file.write(archive->propertyList) >= 0 && file.flush()) {
+        // A date in the future would hold back every newer database.
+        if (archive->modified.isValid())
+            file.setFileTime(std::min(archive->modified, QDateTime::currentDateTime()),
+                             QFileDevice::FileModificationTime);
+        if (file.commit())
+            return true;
+    }
+    error = file.errorString();
+    return false;
+}
+
+/// Like the system's call, over a file that may be there already.
+void move(const QString& from, const QString& to)
+{
+    if (QFile::exists(from)) {
+        QFile::remove(to);
+        QFile::rename(from, to);
+    }
+}
+
+} // namespace
+
+std::optional<VendorTable> readVendorDatabase(const QString& path, QString& error)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        error = file.errorString();
+        return std::nullopt;
+    }
+    const QByteArray bytes = file.read(VendorTable::kLongestPropertyList + 1);
+    if (bytes.size() > VendorTable::kLongestPropertyList) {
+        error = localized("the vendor database is too large");
+        return std::nullopt;
+    }
+    return VendorTable::fromPropertyList(bytes, error);
+}
+
+bool installVendorDatabase(const QString& archivePath, const QString& path, bool replace)
+{
+    if (!QDir().mkpath(QFileInfo(path).path()))
+        return false;
+    const QString backup = path + QLatin1String(".bak");
+    if (replace)
+        move(path, backup);
+    QString error;
+    if (!QFile::exists(path))
+        expand(archivePath, path, error);
+    if (QFile::exists(path)) {
+        QFile::remove(backup);
+        return true;
+    }
+    qCWarning(lcPersistence).noquote() << "Failed to expand database file." << error;
+    move(backup, path);
+    return false;
+}
+
+} // namespace tessara
