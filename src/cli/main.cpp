@@ -1,5 +1,6 @@
 #include "cli/Command.h"
 #include "cli/Terminal.h"
+#include "cli/VendorsOption.h"
 #include "foundation/SettingsOptions.h"
 
 #include <QCoreApplication>
@@ -34,6 +35,7 @@ ExitStatus runCommand(const Command& command, const QStringList& words)
                                   QStringLiteral("Show this help."));
     command.addOptions(parser);
     addSettingsOptions(parser);
+    addVendorsOption(parser);
     parser.addOption(help);
     if (!parser.parse(words))
         return wrongUsage(parser.errorText());
@@ -45,6 +47,10 @@ ExitStatus runCommand(const Command& command, const QStringList& words)
     }
     if (const QString error = applySettingsOptions(parser); !error.isEmpty())
         return wrongUsage(error);
+    if (const QString error = installVendors(parser); !error.isEmpty()) {
+        complain(error);
+        return kFailed;
+    }
     return command.run(parser, parser.positionalArguments().mid(1));
 }
 

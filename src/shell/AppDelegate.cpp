@@ -27,8 +27,12 @@ const FontSizeRange kFontSizes[] = {
 
 } // namespace
 
-AppDelegate::AppDelegate(WiFiService& wifi, EngineServices services)
+AppDelegate::AppDelegate(WiFiService& wifi, TSVendorDatabaseHelper& vendors,
+                         EngineServices services)
     : m_scanCycle(chooseInterface(wifi), services, *this, m_prompt)
+    , m_clock(services.clock)
+    , m_vendors(vendors)
+    , m_vendorsUpdate(vendors, m_prompt, services.clock)
 {
     m_window.installEventFilter(this);
     connectParts(services.notifications);
@@ -66,6 +70,7 @@ void AppDelegate::restoreWindowFrame()
 
 void AppDelegate::applicationWillFinishLaunching()
 {
+    m_vendors.expandDatabase();
     loadDefaults();
     m_window.networksView().restoreLayout(
         Defaults::standard().value(DefaultKey::NetworksTable).toByteArray());
@@ -104,9 +109,20 @@ void AppDelegate::showWindow()
         showNoInterfaceAlert();
         return;
     }
+    if (Defaults::standard().boolForKey(DefaultKey::RanOnce))
+        checkVendorsDatabaseLater();
     if (!std::exchange(m_windowDidShowFirstTime, true))
         m_scanCycle.doAutoStart();
     m_window.networksView().setFocus();
+}
+
+void AppDelegate::checkVendorsDatabaseLater()
+{
+    constexpr double kDelay = 5.0; // seconds; a start has better things to do
+    m_vendorsCheck = m_clock.repeat(kDelay, [this] {
+        const auto once = std::move(m_vendorsCheck);
+        m_vendorsUpdate.checkForDatabaseUpdates(false);
+    });
 }
 
 void AppDelegate::showNoInterfaceAlert()

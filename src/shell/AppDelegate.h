@@ -1,6 +1,7 @@
 #pragma once
 
 #include "filtering/DisplayPipeline.h"
+#include "persistence/VendorDatabaseUpdate.h"
 #include "scanning/ScanCycle.h"
 #include "shell/MainWindow.h"
 #include "shell/SheetPrompt.h"
@@ -18,7 +19,7 @@ public:
     /// Builds the window and chooses the interface; nothing is visible yet.
     /// @param wifi where the interface comes from
     /// @param services must outlive this, as the engines do
-    AppDelegate(WiFiService& wifi, EngineServices services);
+    AppDelegate(WiFiService& wifi, TSVendorDatabaseHelper& vendors, EngineServices services);
 
     /// Reads the settings and shows the window; the first time, scanning may start by itself.
     void applicationWillFinishLaunching();
@@ -55,6 +56,7 @@ private:
     void restoreWindowFrame();
     void showWindow();
     void showNoInterfaceAlert();
+    void checkVendorsDatabaseLater();
     void configureNetworksView();
     bool windowShouldClose();
     void windowWillClose();
@@ -65,6 +67,10 @@ private:
     MainWindow m_window;
     SheetPrompt m_prompt{m_window};
     ScanCycle m_scanCycle;
+    Clock& m_clock;
+    TSVendorDatabaseHelper& m_vendors;
+    VendorDatabaseUpdate m_vendorsUpdate;
+    std::unique_ptr<RepeatingTimer> m_vendorsCheck; ///< until its first call
     bool m_windowDidShowFirstTime = false;
     bool m_didTerminate = false;
 };

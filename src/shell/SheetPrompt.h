@@ -6,6 +6,7 @@
 
 #include <map>
 
+class QDialog;
 class QMessageBox;
 class QWidget;
 
@@ -22,10 +23,17 @@ public:
 
     AlertId beginAlert(const TSAlert& alert, Answer answer) override;
     void endAlert(AlertId alert) override;
+    AlertId beginSuppressibleAlert(const TSAlert& alert, SuppressibleAnswer answer) override;
+    ProgressId beginProgress(const QString& message) override;
+    void endProgress(ProgressId progress) override { endAlert(progress); }
 
 private:
+    QMessageBox* makeSheet(const TSAlert& alert);
+    /// Shows a sheet until it is answered or ended.
+    AlertId open(QMessageBox* box, Answer answer);
+
     QWidget& m_window;
-    std::map<AlertId, QMessageBox*> m_sheets; ///< those that are showing
+    std::map<AlertId, QDialog*> m_sheets; ///< those that are showing
     AlertId m_lastAlert = 0;
 };
 

@@ -1,5 +1,7 @@
+#include "foundation/Directories.h"
 #include "foundation/SettingsOptions.h"
 #include "foundation/TerminationSignals.h"
+#include "persistence/TSVendorDatabaseHelper.h"
 #include "scanning/ScanRuntime.h"
 #include "scanning/StateInfo.h"
 #include "scanning/SystemWiFiService.h"
@@ -36,7 +38,9 @@ int main(int argc, char** argv)
 
     ScanRuntime runtime;
     SystemWiFiService wifi(runtime.clock(), runtime.pause(), runtime.notifications());
-    AppDelegate delegate(wifi, runtime.engineServices());
+    TSVendorDatabaseHelper& vendors = TSVendorDatabaseHelper::sharedDatabase();
+    Directories::installed().vendors = &vendors;
+    AppDelegate delegate(wifi, vendors, runtime.engineServices());
     const TerminationSignals signalsOfTheUser([&delegate] { delegate.terminate(); });
     QObject::connect(
         &delegate, &AppDelegate::didTerminate, &application, [] { QApplication::exit(0); },

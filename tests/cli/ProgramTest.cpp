@@ -27,6 +27,7 @@ protected:
         process.setWorkingDirectory(folder.path());
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert(QStringLiteral("XDG_CONFIG_HOME"), folder.path());
+        environment.insert(QStringLiteral("XDG_DATA_HOME"), folder.path());
         environment.insert(QStringLiteral("CLI"), QStringLiteral(TESSARA_CLI));
         environment.insert(QStringLiteral("RECORDING"), QStringLiteral(TESSARA_RECORDING));
         process.setProcessEnvironment(environment);

@@ -65,8 +65,9 @@ protected:
     void launch()
     {
         delegate = std::make_unique<AppDelegate>(
-            service, EngineServices{clock, pause, notifications,
-                                    [this](auto body) { bodies.push_back(std::move(body)); }});
+            service, vendors, EngineServices{clock, pause, notifications, [this](auto body) {
+                                                 bodies.push_back(std::move(body));
+                                             }});
         delegate->applicationWillFinishLaunching();
         settle();
     }
@@ -112,6 +113,8 @@ protected:
     NotificationCenter notifications;
     OneInterfaceService service;
     std::vector<std::function<void()>> bodies; ///< of the engines, the newest last
+    TSVendorDatabaseHelper vendors{
+        {.database = directory.filePath(QStringLiteral("vendors.plist"))}};
     std::unique_ptr<AppDelegate> delegate;
 };
 
