@@ -71,6 +71,7 @@ void AppDelegate::restoreWindowFrame()
 void AppDelegate::applicationWillFinishLaunching()
 {
     m_vendors.expandDatabase();
+    m_vendors.loadInBackground();
     loadDefaults();
     m_window.networksView().restoreLayout(
         Defaults::standard().value(DefaultKey::NetworksTable).toByteArray());
