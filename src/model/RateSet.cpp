@@ -111,8 +111,8 @@ constexpr DistinctRates distinctRates()
         }
     }
     std::ranges::sort(all.values);
-    all.count = static_cast<std::size_t>(std::unique(all.values.begin(), all.values.end())
-                                         - all.values.begin());
+    all.count = static_cast<std::size_t>(std::unique(all.values.begin(), all.values.end()) -
+                                         all.values.begin());
     return all;
 }
 
