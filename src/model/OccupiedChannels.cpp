@@ -72,7 +72,7 @@ std::vector<std::int64_t> occupiedChannels(const ChannelPlace& place)
 
 QString humanReadableChannel(const ChannelPlace& place)
 {
-    const QString channel = QString::number(place.channel);
+    QString channel = QString::number(place.channel);
     const bool showsOffset =
         place.width == ChannelWidth::k20MHz || place.width == ChannelWidth::k40MHz;
     if (!showsOffset || place.secondaryChannelOffset == 0)
