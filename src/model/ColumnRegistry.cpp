@@ -201,10 +201,9 @@ std::vector<Column> makeRegistry()
             "BSSID", "BSSID",
             "The address of the access point's radio, the identifier of the basic service set.",
             kShown, 172, kStandard),
-        with(textColumn<&Row::ssidValue>(
-                 "SSID", "Network Name",
-                 "The name that the network announces (SSID). A padlock marks a protected network.",
-                 kShown, 160, kStandard),
+        with(textColumn<&Row::ssidValue>("SSID", "Network Name",
+                                         "The name that the network announces (SSID).", kShown, 160,
+                                         kStandard),
              CellKind::kTextAndImage),
         showing(
             textColumn<&Row::beaconIntervalValue>("BEACON_INT", "Beacon Interval",

@@ -49,6 +49,9 @@ void AppDelegate::connectParts(NotificationCenter& notifications)
     connect(&table, &TSNetworksView::sortDescriptorsDidChange, this,
             [this] { filterAndSetNetworks(m_pipeline.networks()); });
 
+    connect(&m_vendorsUpdate, &VendorDatabaseUpdate::databaseDidChange, this,
+            &AppDelegate::prepareAndReload);
+
     // The service posts on threads of its own.
     connect(&notifications, &NotificationCenter::bssidDidChange, this,
             &AppDelegate::updateStateInfo, Qt::QueuedConnection);
