@@ -3,6 +3,8 @@
 #include "foundation/Directories.h"
 #include "persistence/TSVendorDatabaseHelper.h"
 
+#include <QFileInfo>
+
 namespace tessara {
 
 void addVendorsOption(QCommandLineParser& parser)
@@ -17,7 +19,9 @@ QString installVendors(const QCommandLineParser& parser)
     const QString file = parser.value(QStringLiteral("vendors"));
     if (file.isEmpty()) {
         TSVendorDatabaseHelper& shared = TSVendorDatabaseHelper::sharedDatabase();
-        shared.expandDatabase();
+        // A newer version replaces the database when its window starts; here one is enough.
+        if (!QFileInfo::exists(shared.pathToDatabase()))
+            shared.expandDatabase();
         Directories::installed().vendors = &shared;
         return {};
     }
