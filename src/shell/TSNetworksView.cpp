@@ -96,6 +96,7 @@ void TSNetworksView::setDefaultLayout()
 {
     for (const Column& column : columns()) {
         const int index = indexOf(column);
+        setColumnHidden(index, false); // a hidden section does not tell its new width
         header()->resizeSection(index, defaultWidth(column));
         setColumnHidden(index, column.hidden);
     }

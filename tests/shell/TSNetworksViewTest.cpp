@@ -212,6 +212,19 @@ TEST_F(NetworksViewTest, KeepsTheLayoutOfItsColumnsFromRunToRun)
     EXPECT_EQ(next.columnWidth(columnNumber(u"SEEN")), 99) << "a hidden column keeps its width";
 }
 
+TEST_F(NetworksViewTest, SizesHiddenColumnsForTheFontToo)
+{
+    view.setFontSize(18);
+    view.restoreLayout({});
+    TSNetworksView next;
+    next.setFontSize(18);
+    next.restoreLayout(view.layoutState());
+    const int column = columnNumber(u"FIRST_SEEN");
+    view.setColumnHidden(column, false);
+    next.setColumnHidden(column, false);
+    EXPECT_EQ(next.columnWidth(column), view.columnWidth(column));
+}
+
 TEST_F(NetworksViewTest, ComesUpFreshFromALayoutThatIsDamagedOrOfAnotherVersion)
 {
     const QByteArray fresh = view.layoutState();
