@@ -11,18 +11,32 @@ namespace tessara {
 
 namespace {
 
-constexpr int kGap = 2;       ///< blanks between two columns
-constexpr int kNarrowest = 4; ///< a column is not cut below this
+constexpr int kGap = 2;            ///< blanks between two columns
+constexpr int kNarrowest = 4;      ///< a column is not cut below this
+constexpr int kNarrowestName = 10; ///< nor a name, while there is another way
 
-/// Takes from the widest column until the line fits or nothing more can be taken.
-void narrow(std::vector<int>& widths, int available)
+/// Names that people give are of any length, and mostly told apart by their beginnings.
+bool holdsNames(const Column& column)
+{
+    constexpr QStringView kColumns[] = {u"SSID", u"VENDOR", u"DEVICE_NAME", u"ANNOTATIONS"};
+    return std::ranges::find(kColumns, column.identifier) != std::end(kColumns);
+}
+
+/// Takes from the widest of some columns until the line fits or nothing more can be taken.
+template <typename Condition>
+void narrow(std::vector<int>& widths, int available, int narrowest, const Condition& mayBeCut)
 {
     int total = std::accumulate(widths.begin(), widths.end(), 0);
     while (total > available) {
-        int& widest = *std::ranges::max_element(widths);
-        if (widest <= kNarrowest)
+        std::size_t widest = widths.size();
+        for (std::size_t i = 0; i < widths.size(); ++i) {
+            const bool isWider = widest == widths.size() || widths[i] > widths[widest];
+            if (mayBeCut(i) && widths[i] > narrowest && isWider)
+                widest = i;
+        }
+        if (widest == widths.size())
             return;
-        --widest;
+        --widths[widest];
         --total;
     }
 }
@@ -43,8 +57,12 @@ QStringList tableText(const NetworkList& networks, const std::vector<const Colum
             widest = std::max(widest, displayWidth(line.back()));
         widths.push_back(widest);
     }
-    if (width > 0)
-        narrow(widths, width - kGap * (static_cast<int>(columns.size()) - 1));
+    if (width > 0) {
+        const int available = width - kGap * (static_cast<int>(columns.size()) - 1);
+        narrow(widths, available, kNarrowestName,
+               [&](std::size_t i) { return holdsNames(*columns[i]); });
+        narrow(widths, available, kNarrowest, [](std::size_t) { return true; });
+    }
 
     QStringList table;
     for (const QStringList& line : lines) {

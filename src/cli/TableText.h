@@ -11,7 +11,8 @@
 namespace tessara {
 
 /// Networks as a table for people: a line of titles, then one line a network. Columns are as wide
-/// as what stands in them; where that is more than `width` terminal columns, the widest are cut.
+/// as what stands in them; where that is more than `width` terminal columns, the widest are cut,
+/// names first.
 /// @param width 0 for no limit
 QStringList tableText(const NetworkList& networks, const std::vector<const Column*>& columns,
                       const CellContext& context, int width);

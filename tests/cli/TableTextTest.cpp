@@ -58,6 +58,10 @@ TEST_F(TableTextTest, CutsTheWidestColumnsToFitTheTerminal)
              tableText(networks, columns({u"BSSID", u"SSID", u"CHANNEL"}), {}, width))
             EXPECT_LE(displayWidth(line), width) << line.toStdString();
     }
+    EXPECT_TRUE(tableText(networks, columns({u"BSSID", u"SSID", u"CHANNEL"}), {}, 40)
+                    .at(1)
+                    .startsWith(QStringLiteral("00:00:00:00:00:01  A rath")))
+        << "names are cut before addresses";
     const QStringList table = tableText(networks, columns({u"SSID", u"CHANNEL"}), {}, 17);
     EXPECT_EQ(table[1], QStringLiteral("A rathe…        6"));
     EXPECT_EQ(table[2], QStringLiteral("光光光…         6")) << "half a character is not shown";
