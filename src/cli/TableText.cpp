@@ -12,33 +12,41 @@ namespace tessara {
 namespace {
 
 constexpr int kGap = 2;            ///< blanks between two columns
-constexpr int kNarrowest = 4;      ///< a column is not cut below this
-constexpr int kNarrowestName = 10; ///< nor a name, while there is another way
+constexpr int kNarrowestName = 10; ///< a name is not cut below this
 
 /// Names that people give are of any length, and mostly told apart by their beginnings.
-bool holdsNames(const Column& column)
+bool mayBeCut(const Column& column)
 {
     constexpr QStringView kColumns[] = {u"SSID", u"VENDOR", u"DEVICE_NAME", u"ANNOTATIONS"};
     return std::ranges::find(kColumns, column.identifier) != std::end(kColumns);
 }
 
-/// Takes from the widest of some columns until the line fits or nothing more can be taken.
-template <typename Condition>
-void narrow(std::vector<int>& widths, int available, int narrowest, const Condition& mayBeCut)
+/// The widths of as many columns, from the first on, as have room: of names the widest are cut,
+/// and a column that has no room even so is left out with those behind it.
+std::vector<int> fittingWidths(const std::vector<const Column*>& columns,
+                               const std::vector<int>& wanted, int available)
 {
-    int total = std::accumulate(widths.begin(), widths.end(), 0);
-    while (total > available) {
-        std::size_t widest = widths.size();
-        for (std::size_t i = 0; i < widths.size(); ++i) {
-            const bool isWider = widest == widths.size() || widths[i] > widths[widest];
-            if (mayBeCut(i) && widths[i] > narrowest && isWider)
-                widest = i;
+    for (std::size_t count = columns.size(); count > 0; --count) {
+        std::vector<int> widths(wanted.begin(),
+                                wanted.begin() + static_cast<std::ptrdiff_t>(count));
+        int total =
+            std::accumulate(widths.begin(), widths.end(), 0) + kGap * (static_cast<int>(count) - 1);
+        while (total > available) {
+            int* widest = nullptr;
+            for (std::size_t i = 0; i < count; ++i) {
+                const bool isWider = !widest || widths[i] > *widest;
+                if (mayBeCut(*columns[i]) && widths[i] > kNarrowestName && isWider)
+                    widest = &widths[i];
+            }
+            if (!widest)
+                break;
+            --*widest;
+            --total;
         }
-        if (widest == widths.size())
-            return;
-        --widths[widest];
-        --total;
+        if (total <= available)
+            return widths;
     }
+    return {available}; // not even the first one fits
 }
 
 } // namespace
@@ -57,21 +65,15 @@ QStringList tableText(const NetworkList& networks, const std::vector<const Colum
             widest = std::max(widest, displayWidth(line.back()));
         widths.push_back(widest);
     }
-    if (width > 0) {
-        const int available = width - kGap * (static_cast<int>(columns.size()) - 1);
-        narrow(widths, available, kNarrowestName,
-               [&](std::size_t i) { return holdsNames(*columns[i]); });
-        narrow(widths, available, kNarrowest, [](std::size_t) { return true; });
-    }
+    if (width > 0)
+        widths = fittingWidths(columns, widths, width);
 
     QStringList table;
     for (const QStringList& line : lines) {
         QStringList cells;
-        for (std::size_t i = 0; i < columns.size(); ++i)
+        for (std::size_t i = 0; i < widths.size(); ++i)
             cells += fitted(line[static_cast<qsizetype>(i)], widths[i], columns[i]->alignsRight);
         QString text = cells.join(QString(kGap, u' '));
-        if (width > 0)
-            text = fitted(text, width, false); // where even the narrowest columns do not fit
         while (text.endsWith(u' '))
             text.chop(1);
         table += text;
