@@ -1,6 +1,7 @@
 #include "scanning/CaptureBuilder.h"
 #include "scanning/recorded/RecordingReader.h"
 #include "scanning/recorded/RecordingWriter.h"
+#include "scanning/recorded/Replay.h"
 #include "scanning/recorded/ScanInput.h"
 
 #include <QDir>
@@ -325,6 +326,28 @@ TEST(RecordingReader, KnowsAScanWithoutSignals)
         ASSERT_EQ(outcome.scans.size(), 1u);
         EXPECT_EQ(outcome.scans[0].recordsSignal, c.recordsSignal) << c.networks.constData();
     }
+}
+
+TEST_F(RecordingFiles, HoldAMillionNetworksInOneLine)
+{
+    constexpr int kNetworks = 1'000'000;
+    QFile file(path("million.jsonl"));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("{\"time\":1,\"networks\":[");
+    for (int i = 0; i < kNetworks; ++i) {
+        file.write(QByteArray(i == 0 ? "" : ",") + "{\"bssid\":\"2:0:0:" +
+                   QByteArray::number(i >> 16, 16) + ':' + QByteArray::number(i >> 8 & 0xff, 16) +
+                   ':' + QByteArray::number(i & 0xff, 16) + "\",\"rssiValue\":-50}");
+    }
+    file.write("]}\n");
+    file.close();
+
+    const ScanInput input = openScanInput(file.fileName(), 3.0);
+    ASSERT_TRUE(input.reader);
+    const Replay result = replay(*input.reader, {std::nullopt, 300});
+    EXPECT_EQ(input.reader->error(), QString());
+    ASSERT_EQ(result.networks.size(), static_cast<std::size_t>(kNetworks));
+    EXPECT_EQ(result.networks.back()->bssid(), QStringLiteral("02:00:00:0F:42:3F"));
 }
 
 TEST_F(RecordingFiles, AreToldFromCapturesByTheirEnding)
