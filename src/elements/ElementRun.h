@@ -1,5 +1,6 @@
 #pragma once
 
+#include "elements/ElementID.h"
 #include "foundation/ByteReader.h"
 
 #include <QByteArray>
@@ -8,15 +9,6 @@
 #include <optional>
 
 namespace tessara {
-
-/// Element identifiers (IEEE Std 802.11-2020, table 9-92) that more than one file reads.
-namespace ElementID {
-inline constexpr std::uint8_t kSSID = 0;
-inline constexpr std::uint8_t kDSParameterSet = 3;
-inline constexpr std::uint8_t kRSN = 48;
-inline constexpr std::uint8_t kHTOperation = 61;
-inline constexpr std::uint8_t kVendorSpecific = 221;
-} // namespace ElementID
 
 /// One element of a run: identifier, and the bytes after the length.
 struct ElementView {

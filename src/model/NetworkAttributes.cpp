@@ -1,5 +1,6 @@
 #include "model/NetworkAttributes.h"
 
+#include "elements/ElementID.h"
 #include "foundation/ByteReader.h"
 #include "model/Amendments.h"
 #include "model/Band.h"
@@ -16,33 +17,7 @@ namespace tessara {
 
 namespace {
 
-// Identifiers of elements, IEEE Std 802.11-2020, table 9-92.
-enum : std::uint8_t {
-    kSSID = 0,
-    kSupportedRates = 1,
-    kDSParameterSet = 3,
-    kCountry = 7,
-    kBSSLoad = 11,
-    kPowerConstraint = 32,
-    kTPCReport = 35,
-    kChannelSwitchAnnouncement = 37,
-    kQuiet = 40,
-    kHTCapabilities = 45,
-    kRSN = 48,
-    kExtendedSupportedRates = 50,
-    kMobilityDomain = 54,
-    kHTOperation = 61,
-    kTimeAdvertisement = 69,
-    kRMEnabledCapabilities = 70,
-    kMeshConfiguration = 113,
-    kMeshID = 114,
-    kExtendedCapabilities = 127,
-    kCiscoCCX1 = 133,
-    kCiscoCCX4 = 150,
-    kVHTCapabilities = 191,
-    kVHTOperation = 192,
-    kVendorSpecific = 221,
-};
+using namespace ElementID;
 
 // Organizations of vendor elements and of suites.
 enum : std::uint32_t {
