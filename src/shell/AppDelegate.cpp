@@ -3,6 +3,7 @@
 #include "foundation/Defaults.h"
 #include "foundation/Localized.h"
 #include "shell/ActivityIndicator.h"
+#include "shell/IntervalMenu.h"
 #include "shell/TSNetworksView.h"
 
 #include <QEvent>
@@ -44,6 +45,8 @@ void AppDelegate::connectParts(NotificationCenter& notifications)
 {
     connect(&m_window, &MainWindow::scanRequested, &m_scanCycle, &ScanCycle::doStart);
     connect(&m_window, &MainWindow::stopRequested, &m_scanCycle, &ScanCycle::doStop);
+    connect(&m_window.intervalMenu(), &IntervalMenu::intervalsTriggered, this,
+            &AppDelegate::onIntervals);
 
     const TSNetworksView& table = m_window.networksView();
     connect(&table, &TSNetworksView::sortDescriptorsDidChange, this,
@@ -106,6 +109,9 @@ void AppDelegate::showWindow()
     updateStateInfo();
     if (m_window.isActiveWindow())
         return;
+    m_window.intervalMenu().selectInterval(
+        Defaults::standard().integerForKey(DefaultKey::SelectedScanInterval));
+    onIntervals();
     m_window.show();
     m_window.raise();
     m_window.activateWindow();
@@ -118,6 +124,11 @@ void AppDelegate::showWindow()
     if (!std::exchange(m_windowDidShowFirstTime, true))
         m_scanCycle.doAutoStart();
     m_window.networksView().setFocus();
+}
+
+void AppDelegate::onIntervals()
+{
+    // Meant to do nothing: the engine's pause and the pace of the list are fixed.
 }
 
 void AppDelegate::checkVendorsDatabaseLater()

@@ -55,6 +55,7 @@ private:
     void saveDefaults();
     void restoreWindowFrame();
     void showWindow();
+    void onIntervals();
     void showNoInterfaceAlert();
     void checkVendorsDatabaseLater();
     void configureNetworksView();

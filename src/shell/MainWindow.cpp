@@ -4,6 +4,7 @@
 #include "shell/ActivityIndicator.h"
 #include "shell/ElidedLabel.h"
 #include "shell/GlyphIcon.h"
+#include "shell/IntervalMenu.h"
 #include "shell/TSNetworksView.h"
 
 #include <QAction>
@@ -90,8 +91,12 @@ void MainWindow::makeMenus()
     quit->setMenuRole(QAction::QuitRole);
 
     QMenu& scan = *menuBar()->addMenu(localized("&Scan"));
+    scan.setToolTipsVisible(true);
     scan.addAction(m_scan);
     scan.addAction(m_stop);
+    scan.addSeparator();
+    m_intervalMenu = new IntervalMenu(&scan);
+    scan.addMenu(m_intervalMenu);
 
     QMenu& view = *menuBar()->addMenu(localized("&View"));
     QMenu* columns = view.addMenu(localized("&Columns"));

@@ -10,6 +10,7 @@ namespace tessara {
 
 class ActivityIndicator;
 class ElidedLabel;
+class IntervalMenu;
 class TSNetworksView;
 
 /// The main window: toolbar, menus, networks table and footer. It shows what it is given and
@@ -22,6 +23,7 @@ public:
 
     TSNetworksView& networksView() { return *m_networksView; }
     ActivityIndicator& activityIndicator() { return *m_activityIndicator; }
+    IntervalMenu& intervalMenu() { return *m_intervalMenu; }
 
     /// Which of Scan and Stop makes sense now.
     void setScanStopEnabled(bool canScan, bool canStop);
@@ -47,6 +49,7 @@ private:
     TSNetworksView* m_networksView;
     QAction* m_scan = nullptr;
     QAction* m_stop = nullptr;
+    IntervalMenu* m_intervalMenu = nullptr;
     ActivityIndicator* m_activityIndicator = nullptr;
     ElidedLabel* m_info = nullptr;
     ElidedLabel* m_leftFooter = nullptr;

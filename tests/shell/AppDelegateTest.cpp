@@ -2,6 +2,7 @@
 
 #include "foundation/Defaults.h"
 #include "scanning/ScriptedInterface.h"
+#include "shell/IntervalMenu.h"
 #include "shell/TSNetworksView.h"
 #include "support/ManualClock.h"
 
@@ -177,6 +178,25 @@ TEST_F(AppDelegateTest, ShowsWhatAScanFindsInTheOrderOfTheHeader)
     EXPECT_THAT(names(), ElementsAre("alpha", "Gamma 9", "Gamma 10", "Beta"));
     tick();
     EXPECT_THAT(names(), ElementsAre("alpha", "Gamma 9", "Gamma 10", "Beta"));
+}
+
+TEST_F(AppDelegateTest, ChecksTheStoredIntervalAndScansAtItsOwnPace)
+{
+    Defaults::standard().setValue(DefaultKey::SelectedScanInterval, 8);
+    launch();
+    const QList<QAction*> items = delegate->window().intervalMenu().actions();
+    QStringList checked;
+    for (const QAction* item : items) {
+        if (item->isChecked())
+            checked += item->text();
+    }
+    EXPECT_EQ(checked, QStringList{QStringLiteral("5 minutes")});
+
+    engineScans({});
+    items.first()->trigger();
+    EXPECT_TRUE(items.first()->isChecked());
+    EXPECT_FALSE(items.last()->isChecked());
+    EXPECT_EQ(bodies.size(), 1U) << "no other engine was started";
 }
 
 TEST_F(AppDelegateTest, AsksOnceToTurnWiFiOnAndWithdrawsTheQuestionWhenItIsOn)
