@@ -27,6 +27,7 @@ std::span<const Command> commands();
 
 // One file each.
 extern const Command kNetworksCommand;
+extern const Command kElementsCommand;
 extern const Command kConvertCommand;
 extern const Command kScanCommand;
 extern const Command kInterfacesCommand;

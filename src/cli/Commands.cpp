@@ -8,7 +8,7 @@ namespace tessara {
 
 std::span<const Command> commands()
 {
-    static const Command all[] = {kNetworksCommand, kConvertCommand, kScanCommand,
+    static const Command all[] = {kNetworksCommand, kElementsCommand, kConvertCommand, kScanCommand,
                                   kInterfacesCommand};
     return all;
 }

@@ -144,6 +144,11 @@ std::size_t TSNetwork::informationElementsLength() const
     return static_cast<std::size_t>(m_network.informationElementData.value_or(QByteArray()).size());
 }
 
+std::vector<TSInfoElement> TSNetwork::informationElements() const
+{
+    return tessara::informationElements(m_network.informationElementData.value_or(QByteArray()));
+}
+
 void TSNetwork::addDataPoint(const TSDataPoint& sample)
 {
     if (m_dataPoints.size() >= kMaxDataPoints)

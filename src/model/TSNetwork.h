@@ -1,5 +1,6 @@
 #pragma once
 
+#include "elements/TSInfoElement.h"
 #include "model/Band.h"
 #include "model/NetworkAttributes.h"
 #include "model/NetworkKey.h"
@@ -87,6 +88,8 @@ public:
     bool isAdHoc() const { return m_network.ibss.value_or(false); }
     /// Bytes of element data.
     std::size_t informationElementsLength() const;
+    /// New objects at each call, not decoded yet.
+    std::vector<TSInfoElement> informationElements() const;
     const NetworkAttributes& attributes() const { return m_attributes; }
     std::int64_t stationCount() const { return m_attributes.stationCount; }
     std::int64_t channelUtilization() const { return m_attributes.channelUtilization; }

@@ -1,0 +1,122 @@
+#include "cli/Command.h"
+#include "cli/ElementsJSON.h"
+#include "cli/InputOptions.h"
+#include "foundation/Defaults.h"
+#include "foundation/HarmlessText.h"
+#include "scanning/recorded/Replay.h"
+
+#include <QJsonDocument>
+#include <QTextStream>
+
+#include <algorithm>
+
+namespace tessara {
+
+namespace {
+
+const QString kBSSID = QStringLiteral("bssid");
+const QString kHex = QStringLiteral("hex");
+const QString kFormat = QStringLiteral("format");
+const QString kText = QStringLiteral("text");
+const QString kJSON = QStringLiteral("json");
+
+void addOptions(QCommandLineParser& parser)
+{
+    addInputOptions(parser);
+    parser.addOptions({
+        {kBSSID, QStringLiteral("The network of the input whose elements are wanted."),
+         QStringLiteral("BSSID")},
+        {kHex, QStringLiteral("Decode these element bytes, given in hexadecimal, and no input."),
+         QStringLiteral("BYTES")},
+        {kFormat, QStringLiteral("text (as told without this) or json."), kFormat, kText},
+    });
+}
+
+void printElements(const std::vector<TSInfoElement>& elements, bool asJSON)
+{
+    QTextStream out(stdout);
+    if (asJSON) {
+        out << QJsonDocument(elementsJSON(elements)).toJson();
+        return;
+    }
+    bool isFirst = true;
+    for (const TSInfoElement& element : elements) {
+        if (!std::exchange(isFirst, false))
+            out << '\n';
+        for (const QString& line : QString::fromStdString(element.ieDump()).split(u'\n'))
+            out << harmless(line) << '\n';
+    }
+}
+
+/// @param error what is wrong with the text, if something is
+QByteArray bytesOfHex(const QString& text, QString& error)
+{
+    QString digits = text;
+    digits.removeIf([](QChar c) { return c.isSpace() || c == QChar(u':'); });
+    const bool areDigits = std::ranges::all_of(
+        digits, [](QChar c) { return c.unicode() < 0x80 && std::isxdigit(c.unicode()) != 0; });
+    if (!areDigits || digits.size() % 2 != 0) {
+        error = QStringLiteral("--hex takes bytes of two hexadecimal digits each");
+        return {};
+    }
+    return QByteArray::fromHex(digits.toLatin1());
+}
+
+ExitStatus printElementsOfInput(const QCommandLineParser& parser, const QString& name, bool asJSON)
+{
+    QString error;
+    const auto sweep = sweepSeconds(parser, error);
+    if (!sweep)
+        return wrongUsage(error);
+    const ScanInput input = openScanInput(name, *sweep);
+    if (!input.reader) {
+        complain(input.error);
+        return kFailed;
+    }
+    const Replay result = replay(*input.reader, MergeLimits::fromDefaults(Defaults::standard()));
+    const QString bssid = parser.value(kBSSID);
+    const auto network = std::ranges::find_if(result.networks, [&bssid](const auto& candidate) {
+        return candidate->bssid().compare(bssid, Qt::CaseInsensitive) == 0;
+    });
+    if (network != result.networks.end())
+        printElements((*network)->informationElements(), asJSON);
+    if (!input.reader->error().isEmpty()) {
+        complain(input.reader->error());
+        return kFailed;
+    }
+    if (network == result.networks.end()) {
+        complain(QStringLiteral("%1 holds no network with the BSSID %2 after its last scan")
+                     .arg(name, bssid));
+        return kFailed;
+    }
+    return finishOutput();
+}
+
+ExitStatus run(const QCommandLineParser& parser, const QStringList& arguments)
+{
+    const QString format = parser.value(kFormat);
+    if (format != kText && format != kJSON)
+        return wrongUsage(QStringLiteral("--format takes text or json"));
+    if (parser.isSet(kHex)) {
+        if (!arguments.isEmpty() || parser.isSet(kBSSID))
+            return wrongUsage(QStringLiteral("elements --hex takes no input"));
+        QString error;
+        const QByteArray bytes = bytesOfHex(parser.value(kHex), error);
+        if (!error.isEmpty())
+            return wrongUsage(error);
+        printElements(informationElements(bytes), format == kJSON);
+        return finishOutput();
+    }
+    if (arguments.size() != 1 || !parser.isSet(kBSSID))
+        return wrongUsage(QStringLiteral("elements takes one input and --bssid, or --hex"));
+    return printElementsOfInput(parser, arguments[0], format == kJSON);
+}
+
+} // namespace
+
+const Command kElementsCommand = {
+    "elements", "INPUT --bssid BSSID | --hex BYTES",
+    "Shows what a network of a recording or a capture says of itself, element by element.",
+    addOptions, run};
+
+} // namespace tessara

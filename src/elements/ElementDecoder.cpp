@@ -1,0 +1,72 @@
+#include "elements/ElementDecoder.h"
+
+#include "elements/BitFieldItems.h"
+#include "elements/ElementVendor.h"
+
+#include <QUtf8StringView>
+
+#include <algorithm>
+
+namespace tessara {
+
+namespace {
+
+/// The longest content that the length byte can tell (IEEE Std 802.11-2020, 9.4.2.1).
+constexpr std::size_t kLongestContent = 255;
+/// So that a number that begins in the longest content can be read whole.
+constexpr std::size_t kWidestNumber = 4;
+
+/// The bytes, and zeros for those that they lack of the longest content.
+Bytes padded(FieldArena& arena, Bytes value)
+{
+    const std::span<char> copy =
+        arena.allocateText(std::max(value.size(), kLongestContent) + kWidestNumber);
+    const auto end = std::ranges::copy(value, copy.begin()).out;
+    std::fill(end, copy.end(), 0);
+    return {reinterpret_cast<const std::uint8_t*>(copy.data()), copy.size()};
+}
+
+} // namespace
+
+ElementDecoder::ElementDecoder(Bytes value)
+    : m_length(value.size())
+    , m_value(padded(*this, value))
+{
+}
+
+std::optional<std::string_view> ElementDecoder::utf8(Bytes bytes)
+{
+    const QUtf8StringView text(bytes.data(), static_cast<qsizetype>(bytes.size()));
+    if (!text.isValidUtf8())
+        return std::nullopt;
+    return std::string_view(reinterpret_cast<const char*>(bytes.data()), bytes.size());
+}
+
+std::optional<std::string_view> ElementDecoder::ascii(Bytes bytes)
+{
+    if (std::ranges::any_of(bytes, [](std::uint8_t byte) { return byte > 0x7f; }))
+        return std::nullopt;
+    return std::string_view(reinterpret_cast<const char*>(bytes.data()), bytes.size());
+}
+
+std::string_view ElementDecoder::ouiText(std::size_t offset)
+{
+    return hexadecimalString(bytes(offset, 3), 0, 3, "-");
+}
+
+std::string_view ElementDecoder::vendorNote(Bytes oui)
+{
+    const auto vendor = vendorOfOUI(oui);
+    return vendor ? text("({})", vendor->toStdString()) : text("({})", kNullText);
+}
+
+std::span<const Field> ElementDecoder::items(const BitFields& bitFields, std::uint32_t value)
+{
+    const BitFieldItems items(*this, bitFields.width, value);
+    const std::span<Field> rows = allocateFields(bitFields.fields.size());
+    std::ranges::transform(bitFields.fields, rows.begin(),
+                           [&](const BitField& field) { return items.item(field); });
+    return rows;
+}
+
+} // namespace tessara

@@ -1,0 +1,67 @@
+#pragma once
+
+#include "elements/BitField.h"
+#include "elements/FieldArena.h"
+
+#include <span>
+
+namespace tessara {
+
+/// What the decoder of one element works with: it reads the element's bytes, makes rows of them
+/// and sets the summary. The rows live as long as this.
+///
+/// Offsets count from the first byte after the length. Numbers are little-endian unless they say
+/// otherwise. Decoders believe the offsets and the counts they find: an element is shown as if
+/// the bytes it lacks were there, and zero, up to the longest element that can be.
+class ElementDecoder final : public FieldArena {
+public:
+    explicit ElementDecoder(Bytes value);
+
+    // Bytes -----------------------------------------------------------------------------------
+
+    std::size_t length() const { return m_length; }
+    std::uint8_t u8(std::size_t offset) const { return m_value.u8OrZero(offset); }
+    std::int8_t i8(std::size_t offset) const { return static_cast<std::int8_t>(u8(offset)); }
+    std::uint16_t u16(std::size_t offset) const { return m_value.u16(offset).value_or(0); }
+    std::uint32_t u32(std::size_t offset) const { return m_value.u32(offset).value_or(0); }
+    std::uint16_t u16BigEndian(std::size_t offset) const
+    {
+        return m_value.u16BigEndian(offset).value_or(0);
+    }
+    /// So many bytes, also where the element has ended.
+    Bytes bytes(std::size_t offset, std::size_t count) const
+    {
+        return m_value.slice(offset, count);
+    }
+    /// The bytes up to the end of the element; none behind it.
+    Bytes from(std::size_t offset) const
+    {
+        return offset < m_length ? m_value.slice(offset, m_length - offset) : Bytes{};
+    }
+
+    // Texts -----------------------------------------------------------------------------------
+
+    /// Absent if the bytes are no UTF-8.
+    static std::optional<std::string_view> utf8(Bytes bytes);
+    /// Absent if one of the bytes is no ASCII.
+    static std::optional<std::string_view> ascii(Bytes bytes);
+    /// "00-0F-AC"
+    std::string_view ouiText(std::size_t offset);
+    /// The maker that an OUI stands for, in brackets.
+    std::string_view vendorNote(Bytes oui);
+
+    // Rows ------------------------------------------------------------------------------------
+
+    /// One item for each bit field of the value.
+    std::span<const Field> items(const BitFields& bitFields, std::uint32_t value);
+
+    std::string_view summary() const { return m_summary; }
+    void setSummary(std::string_view summary) { m_summary = summary; }
+
+private:
+    std::size_t m_length;
+    ByteReader m_value; ///< of a copy of the element with the missing bytes behind it
+    std::string_view m_summary = "";
+};
+
+} // namespace tessara

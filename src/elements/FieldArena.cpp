@@ -1,0 +1,112 @@
+#include "elements/FieldArena.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <memory>
+
+namespace tessara {
+
+std::span<char> FieldArena::allocateText(std::size_t size)
+{
+    return {static_cast<char*>(m_memory.allocate(size, 1)), size};
+}
+
+std::string_view FieldArena::keep(std::string_view text)
+{
+    return concatenated({text});
+}
+
+std::string_view FieldArena::concatenated(std::initializer_list<std::string_view> parts)
+{
+    std::size_t size = 0;
+    for (const std::string_view part : parts)
+        size += part.size();
+    const std::span<char> text = allocateText(size);
+    auto out = text.begin();
+    for (const std::string_view part : parts)
+        out = std::ranges::copy(part, out).out;
+    return {text.data(), text.size()};
+}
+
+std::string_view FieldArena::formatted(fmt::string_view format, fmt::format_args arguments)
+{
+    fmt::memory_buffer text;
+    fmt::vformat_to(std::back_inserter(text), format, arguments);
+    return keep({text.data(), text.size()});
+}
+
+std::string_view FieldArena::decimal(std::int64_t number)
+{
+    std::array<char, 20> digits;
+    const char* end = std::to_chars(digits.begin(), digits.end(), number).ptr;
+    return keep({digits.begin(), end});
+}
+
+std::string_view FieldArena::hex(std::uint32_t number, int digits)
+{
+    std::array<char, 8> shortest;
+    const char* end = std::to_chars(shortest.begin(), shortest.end(), number, 16).ptr;
+    const std::string_view zeros = "00000000";
+    const std::size_t missing = std::max<std::ptrdiff_t>(digits - (end - shortest.begin()), 0);
+    return concatenated({"0x", zeros.substr(0, missing), {shortest.begin(), end}});
+}
+
+std::string_view FieldArena::hexadecimalString(Bytes bytes)
+{
+    return hexadecimalString(bytes, 0, bytes.size(), "");
+}
+
+std::string_view FieldArena::hexadecimalString(Bytes bytes, std::size_t, std::size_t)
+{
+    return hexadecimalString(bytes);
+}
+
+std::string_view FieldArena::hexadecimalString(Bytes bytes, std::size_t start, std::size_t length,
+                                               std::string_view separator)
+{
+    const Bytes range = ByteReader(bytes).slice(start, length);
+    if (range.empty())
+        return "";
+    static constexpr std::string_view kDigits = "0123456789ABCDEF";
+    const std::span<char> text =
+        allocateText(range.size() * 2 + (range.size() - 1) * separator.size());
+    auto out = text.begin();
+    for (const std::uint8_t& byte : range) {
+        if (&byte != range.data()) {
+            out = std::ranges::transform(separator, out, [](char c) {
+                      return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
+                  }).out;
+        }
+        *out++ = kDigits[byte >> 4];
+        *out++ = kDigits[byte & 0xf];
+    }
+    return {text.data(), text.size()};
+}
+
+FieldList& FieldArena::list(std::size_t capacity)
+{
+    // Never destroyed: all it holds is in this memory, too, and goes with it.
+    void* place = m_memory.allocate(sizeof(FieldList), alignof(FieldList));
+    auto* list = new (place) FieldList(&m_memory);
+    list->reserve(capacity);
+    return *list;
+}
+
+std::span<const Field> FieldArena::fields(std::initializer_list<Field> fields)
+{
+    const std::span<Field> kept = allocateFields(fields.size());
+    std::ranges::copy(fields, kept.begin());
+    return kept;
+}
+
+std::span<Field> FieldArena::allocateFields(std::size_t count)
+{
+    auto* first = static_cast<Field*>(m_memory.allocate(count * sizeof(Field), alignof(Field)));
+    std::uninitialized_default_construct_n(first, count);
+    return {first, count};
+}
+
+} // namespace tessara

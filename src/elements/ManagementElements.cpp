@@ -1,0 +1,65 @@
+#include "elements/ManagementElements.h"
+
+#include <cmath>
+
+namespace tessara {
+
+// Mobility Domain: 9.4.2.46 -----------------------------------------------------------------------
+
+namespace {
+
+constexpr auto kFTCapabilityAndPolicy = bitFields<8>({
+    flag(0x01, "Fast BSS Transition over DS", "Over-the-DS Fast BSS Transition",
+         "Over-the-Air Fast BSS Transition"),
+    bits(0x02, "Resource Request Protocol Capability"),
+});
+
+} // namespace
+
+std::span<const Field> parseMobilityDomain(ElementDecoder& e)
+{
+    const std::uint8_t policy = e.u8(2);
+    const std::span<const Field> items = e.items(kFTCapabilityAndPolicy, policy);
+    e.setSummary(items[0].fieldNotes.value_or(""));
+    return e.fields({
+        entryWithName("MDID (Mobility Domain Identifier)", e.hex(e.u16(0), 4)),
+        entryWithName("FT Capability and Policy", e.hex(policy, 2), {}, items),
+    });
+}
+
+// Time Advertisement: 9.4.2.60 --------------------------------------------------------------------
+
+namespace {
+
+constexpr ValueText kTimingCapabilities[] = {
+    {0, "No standardized external time source"},
+    {1, "Timestamp offset based on UTC"},
+    {2, "UTC time at which the TSF timer is 0"},
+};
+
+} // namespace
+
+std::span<const Field> parseTimeAdvertisement(ElementDecoder& e)
+{
+    FieldList& rows = e.list(2);
+    rows.push_back(entryWithName("Timing Capabilities", textFor(kTimingCapabilities, e.u8(0))));
+    if (e.length() >= 2)
+        rows.push_back(entryWithName("Data", e.hexadecimalString(e.from(1))));
+    return rows;
+}
+
+// Multiple BSSID: 9.4.2.45 ------------------------------------------------------------------------
+
+std::span<const Field> parseMultipleBSSID(ElementDecoder& e)
+{
+    const std::uint8_t indicator = e.u8(0);
+    FieldList& rows = e.list(2);
+    rows.push_back(entryWithName("Max BSSID Indicator", e.hex(indicator, 2),
+                                 e.text("({:.0f} BSSIDs)", std::ldexp(1.0, indicator))));
+    if (e.length() >= 2) {
+        rows.push_back(entryWithName("Data", e.hexadecimalString(e.from(0), 1, e.length() - 1)));
+    }
+    return rows;
+}
+
+} // namespace tessara
