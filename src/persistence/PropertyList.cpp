@@ -2,47 +2,121 @@
 
 #include "foundation/Localized.h"
 
-#include <QXmlStreamReader>
+#include <expat.h>
+
+#include <memory>
 
 namespace tessara {
 
-bool readTextDictionary(const QByteArray& bytes, QString& error,
-                        const std::function<void(QStringView key, QStringView value)>& entry)
-{
-    constexpr int kRootDepth = 2;  // within <plist>
-    constexpr int kEntryDepth = 3; // keys and values, within the dictionary
-    QXmlStreamReader reader(bytes);
-    QString key;
-    QString text;
-    int depth = 0;
-    while (!reader.atEnd()) {
-        switch (reader.readNext()) {
-        case QXmlStreamReader::StartElement:
-            ++depth;
-            if ((depth == 1 && reader.name() != u"plist") ||
-                (depth == kRootDepth && reader.name() != u"dict"))
-                reader.raiseError(localized("this is no property list of the kind expected"));
-            text.resize(0);
-            break;
-        case QXmlStreamReader::Characters:
-            text += reader.text();
-            break;
-        case QXmlStreamReader::EndElement:
-            if (depth-- != kEntryDepth)
-                break;
-            if (reader.name() == u"string")
-                entry(key, text);
-            // Swapping keeps the memory of both texts, and a value uses up its key.
-            key.resize(0);
-            if (reader.name() == u"key")
-                key.swap(text);
-            break;
-        default:
-            break;
-        }
+namespace {
+
+constexpr int kPlistDepth = 1;
+constexpr int kRootDepth = 2;  // within <plist>
+constexpr int kEntryDepth = 3; // keys and values, within the dictionary
+constexpr int kGreatestDepth = 100;
+
+struct FreeParser {
+    void operator()(XML_Parser parser) const { XML_ParserFree(parser); }
+};
+
+/// Follows the elements of a property list, as the parser comes to them.
+class TextDictionaryReader {
+public:
+    using Entry = std::function<void(QByteArrayView key, QByteArrayView value)>;
+
+    explicit TextDictionaryReader(const Entry& entry)
+        : m_entry(entry)
+    {
+        XML_SetUserData(parser(), this);
+        XML_SetStartDoctypeDeclHandler(
+            parser(), [](void* self, auto*, auto*, auto*, int hasDeclarations) {
+                if (hasDeclarations)
+                    of(self).refuse(localized("the property list has declarations of its own"));
+            });
+        XML_SetElementHandler(
+            parser(), [](void* self, const char* name, const char**) { of(self).begin(name); },
+            [](void* self, const char* name) { of(self).end(name); });
     }
-    error = reader.errorString().simplified();
-    return !reader.hasError();
+
+    /// @return what is wrong with the list, or empty
+    QString read(const QByteArray& bytes)
+    {
+        // All at once: the parser then works on these bytes and keeps no copy.
+        if (XML_Parse(parser(), bytes.constData(), static_cast<int>(bytes.size()), XML_TRUE) ==
+            XML_STATUS_OK)
+            return {};
+        if (!m_refusal.isEmpty())
+            return m_refusal;
+        return localized("line %1: %2")
+            .arg(XML_GetCurrentLineNumber(parser()))
+            .arg(QLatin1String(XML_ErrorString(XML_GetErrorCode(parser()))));
+    }
+
+private:
+    static TextDictionaryReader& of(void* self)
+    {
+        return *static_cast<TextDictionaryReader*>(self);
+    }
+    XML_Parser parser() const { return m_parser.get(); }
+
+    void refuse(const QString& reason)
+    {
+        m_refusal = reason;
+        XML_StopParser(parser(), XML_FALSE);
+    }
+
+    void begin(QByteArrayView name)
+    {
+        ++m_depth;
+        if ((m_depth == kPlistDepth && name != "plist") ||
+            (m_depth == kRootDepth && name != "dict"))
+            refuse(localized("this is no property list of the kind expected"));
+        else if (m_depth > kGreatestDepth)
+            refuse(localized("the property list is nested too deeply"));
+        collectText(m_depth == kEntryDepth);
+    }
+
+    void end(QByteArrayView name)
+    {
+        if (m_depth-- != kEntryDepth)
+            return;
+        if (name == "string")
+            m_entry(m_key, m_text);
+        // Swapping keeps the memory of both texts, and a value uses up its key.
+        m_key.resize(0);
+        if (name == "key")
+            m_key.swap(m_text);
+        collectText(false);
+    }
+
+    /// From here on, or no more: what stands between the entries is most of the text of a list.
+    void collectText(bool wanted)
+    {
+        m_text.resize(0);
+        XML_SetCharacterDataHandler(parser(), wanted ? &addText : nullptr);
+    }
+
+    static void addText(void* self, const char* text, int length)
+    {
+        of(self).m_text.append(text, length);
+    }
+
+    const Entry& m_entry;
+    const std::unique_ptr<XML_ParserStruct, FreeParser> m_parser{XML_ParserCreate(nullptr)};
+    int m_depth = 0;
+    QByteArray m_key;
+    QByteArray m_text;
+    QString m_refusal;
+};
+
+} // namespace
+
+bool readTextDictionary(const QByteArray& bytes, QString& error,
+                        const std::function<void(QByteArrayView key, QByteArrayView value)>& entry)
+{
+    error = bytes.size() > kLongestPropertyList ? localized("the property list is too long")
+                                                : TextDictionaryReader(entry).read(bytes);
+    return error.isEmpty();
 }
 
 } // namespace tessara

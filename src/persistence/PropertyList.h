@@ -1,21 +1,26 @@
 #pragma once
 
 #include <QByteArray>
+#include <QByteArrayView>
 #include <QString>
 
 #include <functional>
 
 namespace tessara {
 
+/// The longest property list that is read, in bytes: several times the whole registry of vendors.
+constexpr qsizetype kLongestPropertyList = 16 << 20;
+
 /// Reads an XML property list whose root is a dictionary, and gives each entry whose value is
-/// text, in the order of the file. Entries with other values are passed over.
+/// text, in the order of the file and in UTF-8. Entries with other values are passed over.
 ///
-/// The list is never held as a tree: its depth, the number of its entries and the length of its
-/// texts cost no more than reading them.
+/// The list is never held as a tree: the number of its entries and the length of its texts cost no
+/// more than reading them. What could cost more is refused: declarations of the list's own, which
+/// may repeat a text without end, and a depth that no list of ours has.
 ///
-/// @return false, with the reason in `error`, if it is no such list or is damaged; what was given
-///         up to there is then void
+/// @return false, with the reason in `error`, if it is no such list, is too long or is damaged;
+///         what was given up to there is then void
 bool readTextDictionary(const QByteArray& bytes, QString& error,
-                        const std::function<void(QStringView key, QStringView value)>& entry);
+                        const std::function<void(QByteArrayView key, QByteArrayView value)>& entry);
 
 } // namespace tessara

@@ -36,9 +36,10 @@ QHash<QString, QString> readURLs(const QString& path)
     QFile file(path);
     QString error = file.open(QIODevice::ReadOnly) ? QString() : file.errorString();
     if (error.isEmpty())
-        readTextDictionary(file.readAll(), error, [&](QStringView vendor, QStringView url) {
-            urls.insert(vendor.toString(), url.toString());
-        });
+        readTextDictionary(file.read(kLongestPropertyList + 1), error,
+                           [&](QByteArrayView vendor, QByteArrayView url) {
+                               urls.insert(QString::fromUtf8(vendor), QString::fromUtf8(url));
+                           });
     if (!error.isEmpty())
         qCWarning(lcPersistence).noquote() << path << error;
     return urls;

@@ -1,7 +1,7 @@
 #include "persistence/VendorDatabaseFile.h"
 
-#include "foundation/Localized.h"
 #include "foundation/Logging.h"
+#include "persistence/PropertyList.h"
 #include "persistence/VendorsArchive.h"
 
 #include <QDir>
@@ -52,12 +52,8 @@ std::optional<VendorTable> readVendorDatabase(const QString& path, QString& erro
         error = file.errorString();
         return std::nullopt;
     }
-    const QByteArray bytes = file.read(VendorTable::kLongestPropertyList + 1);
-    if (bytes.size() > VendorTable::kLongestPropertyList) {
-        error = localized("the vendor database is too large");
-        return std::nullopt;
-    }
-    return VendorTable::fromPropertyList(bytes, error);
+    // One byte more shows that the list is too long.
+    return VendorTable::fromPropertyList(file.read(kLongestPropertyList + 1), error);
 }
 
 bool installVendorDatabase(const QString& archivePath, const QString& path, bool replace)

@@ -10,23 +10,23 @@ namespace tessara {
 namespace {
 
 /// The value of a hexadecimal digit in upper case, or -1.
-int digitValue(QChar c)
+int digitValue(char16_t c)
 {
     if (c >= u'0' && c <= u'9')
-        return c.unicode() - u'0';
+        return c - u'0';
     if (c >= u'A' && c <= u'F')
-        return c.unicode() - u'A' + 10;
+        return c - u'A' + 10;
     return -1;
 }
 
-/// The number that "00:15:6D" stands for.
-std::optional<std::uint32_t> numberOf(QStringView identifier)
+/// The number that "00:15:6D" stands for, of a look-up (UTF-16) or of a list (UTF-8).
+std::optional<std::uint32_t> numberOf(const auto& identifier)
 {
     if (identifier.size() != 8 || identifier[2] != u':' || identifier[5] != u':')
         return std::nullopt;
     std::uint32_t number = 0;
     for (const qsizetype i : {0, 1, 3, 4, 6, 7}) {
-        const int digit = digitValue(identifier[i]);
+        const int digit = digitValue(identifier[i].unicode());
         if (digit < 0)
             return std::nullopt;
         number = number << 4 | static_cast<std::uint32_t>(digit);
@@ -40,9 +40,9 @@ std::optional<VendorTable> VendorTable::fromPropertyList(const QByteArray& bytes
 {
     VendorTable table;
     const bool read =
-        readTextDictionary(bytes, error, [&](QStringView identifier, QStringView text) {
-            const auto number = numberOf(identifier);
-            const QByteArray name = text.toString().simplified().toUtf8();
+        readTextDictionary(bytes, error, [&](QByteArrayView identifier, QByteArrayView text) {
+            const auto number = numberOf(QLatin1String(identifier));
+            const QByteArray name = QString::fromUtf8(text).simplified().toUtf8();
             if (!number || name.isEmpty())
                 return;
             table.m_entries.push_back({*number, static_cast<std::uint32_t>(table.m_names.size())});

@@ -14,9 +14,6 @@ namespace tessara {
 /// Does not change once it is made.
 class VendorTable {
 public:
-    /// The longest property list that is read, in bytes: several times the whole registry.
-    static constexpr qsizetype kLongestPropertyList = 16 << 20;
-
     /// Reads an XML property list: a dictionary from an identifier ("00:15:6D") to a name. Entries
     /// of another form are left out.
     /// @return none if it is no such list, or names nobody; `error` then says why

@@ -1,7 +1,7 @@
 #include "persistence/VendorsArchive.h"
 
 #include "foundation/Localized.h"
-#include "persistence/VendorTable.h"
+#include "persistence/PropertyList.h"
 
 #include <QFile>
 
@@ -39,7 +39,7 @@ std::optional<QByteArray> contents(zip_file_t* entry, QString& error)
             error = reason(zip_file_get_error(entry));
             return std::nullopt;
         }
-        if (bytes.size() + count > VendorTable::kLongestPropertyList) {
+        if (bytes.size() + count > kLongestPropertyList) {
             error = localized("the vendor database is too large");
             return std::nullopt;
         }

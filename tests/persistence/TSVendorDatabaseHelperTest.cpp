@@ -128,8 +128,8 @@ TEST_F(TSVendorDatabaseHelperTest, ADamagedArchiveLeavesTheDatabaseInForce)
          }},
         {"bomb",
          [&] {
-             writeArchive(archive, {{"vendors.plist",
-                                     kNew + QByteArray(VendorTable::kLongestPropertyList, ' ')}});
+             writeArchive(archive,
+                          {{"vendors.plist", kNew + QByteArray(kLongestPropertyList, ' ')}});
          }},
     };
     TSVendorDatabaseHelper helper(paths);
@@ -227,18 +227,18 @@ TEST_F(TSVendorDatabaseHelperTest, TheSeedNamesTheCommonMakersAndTheirWebSites)
     EXPECT_FALSE(helper.stringForVendor(QStringLiteral("70:B3:D5:12:34:56")))
         << "a block that many share";
 
-    QSet<QString> names;
+    QSet<QByteArray> names;
     QString error;
-    ASSERT_TRUE(
-        readTextDictionary(contentsOf(paths.database), error,
-                           [&](QStringView, QStringView name) { names.insert(name.toString()); }));
+    ASSERT_TRUE(readTextDictionary(
+        contentsOf(paths.database), error,
+        [&](QByteArrayView, QByteArrayView name) { names.insert(name.toByteArray()); }));
     int count = 0;
     ASSERT_TRUE(readTextDictionary(contentsOf(resources + QLatin1String("/urls.plist")), error,
-                                   [&](QStringView name, QStringView url) {
+                                   [&](QByteArrayView name, QByteArrayView url) {
                                        ++count;
-                                       EXPECT_TRUE(names.contains(name.toString()))
-                                           << name.toString().toStdString();
-                                       EXPECT_TRUE(url.startsWith(u"https://"));
+                                       EXPECT_TRUE(names.contains(name.toByteArray()))
+                                           << name.toByteArray().toStdString();
+                                       EXPECT_TRUE(url.startsWith("https://"));
                                    }));
     EXPECT_GE(count, 50);
 }
