@@ -5,6 +5,7 @@
 #include <expat.h>
 
 #include <memory>
+#include <string>
 
 namespace tessara {
 
@@ -83,7 +84,7 @@ private:
         if (name == "string")
             m_entry(m_key, m_text);
         // Swapping keeps the memory of both texts, and a value uses up its key.
-        m_key.resize(0);
+        m_key.clear();
         if (name == "key")
             m_key.swap(m_text);
         collectText(false);
@@ -92,20 +93,20 @@ private:
     /// From here on, or no more: what stands between the entries is most of the text of a list.
     void collectText(bool wanted)
     {
-        m_text.resize(0);
+        m_text.clear();
         XML_SetCharacterDataHandler(parser(), wanted ? &addText : nullptr);
     }
 
     static void addText(void* self, const char* text, int length)
     {
-        of(self).m_text.append(text, length);
+        of(self).m_text.append(text, static_cast<std::size_t>(length));
     }
 
     const Entry& m_entry;
     const std::unique_ptr<XML_ParserStruct, FreeParser> m_parser{XML_ParserCreate(nullptr)};
     int m_depth = 0;
-    QByteArray m_key;
-    QByteArray m_text;
+    std::string m_key;
+    std::string m_text;
     QString m_refusal;
 };
 

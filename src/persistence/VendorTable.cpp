@@ -34,6 +34,28 @@ std::optional<std::uint32_t> numberOf(const auto& identifier)
     return number;
 }
 
+/// Whether every character is of ASCII, and blanks only stand alone and between words.
+bool isSimple(QByteArrayView text)
+{
+    bool isOdd = false;
+    bool afterBlank = true;
+    for (const char c : text) { // without a branch, most of the time of a load would be here
+        const bool isBlank = c == ' ';
+        isOdd |= (c < ' ') | (c > '~') | (isBlank & afterBlank);
+        afterBlank = isBlank;
+    }
+    return !isOdd && !afterBlank;
+}
+
+/// Appends a text with its runs of white space, of any script, made single blanks.
+void appendSimplified(QByteArray& texts, QByteArrayView text)
+{
+    if (isSimple(text)) // as nearly all names are; the long way takes longer than the parser
+        texts.append(text);
+    else
+        texts.append(QString::fromUtf8(text).simplified().toUtf8());
+}
+
 } // namespace
 
 std::optional<VendorTable> VendorTable::fromPropertyList(const QByteArray& bytes, QString& error)
@@ -42,11 +64,14 @@ std::optional<VendorTable> VendorTable::fromPropertyList(const QByteArray& bytes
     const bool read =
         readTextDictionary(bytes, error, [&](QByteArrayView identifier, QByteArrayView text) {
             const auto number = numberOf(QLatin1String(identifier));
-            const QByteArray name = QString::fromUtf8(text).simplified().toUtf8();
-            if (!number || name.isEmpty())
+            const auto begin = table.m_names.size();
+            appendSimplified(table.m_names, text);
+            if (!number || table.m_names.size() == begin) {
+                table.m_names.resize(begin);
                 return;
-            table.m_entries.push_back({*number, static_cast<std::uint32_t>(table.m_names.size())});
-            table.m_names.append(name).append('\0');
+            }
+            table.m_entries.push_back({*number, static_cast<std::uint32_t>(begin)});
+            table.m_names.append('\0');
         });
     if (!read)
         return std::nullopt;
@@ -54,7 +79,9 @@ std::optional<VendorTable> VendorTable::fromPropertyList(const QByteArray& bytes
         error = localized("the property list names no vendor");
         return std::nullopt;
     }
-    std::ranges::sort(table.m_entries, {}, &Entry::identifier);
+    // As a rule the list is in order already.
+    if (!std::ranges::is_sorted(table.m_entries, {}, &Entry::identifier))
+        std::ranges::sort(table.m_entries, {}, &Entry::identifier);
     table.m_entries.shrink_to_fit();
     table.m_names.squeeze();
     return table;
