@@ -111,12 +111,14 @@ TEST(VendorTable, LeavesOutWhatIsNoEntry)
            <key>00:11:2g</key><string>no number</string>
            <key>00:11:25</key><string> Krüger &amp;
              Gothe </string>
+           <key>00:11:26</key><string> Two  Blanks </string>
            </dict></plist>)",
         error);
     ASSERT_TRUE(table) << error.toStdString();
-    EXPECT_EQ(table->size(), 1u);
+    EXPECT_EQ(table->size(), 2u);
     EXPECT_EQ(nameIn(*table, "00:11:22"), QStringLiteral("nobody"));
     EXPECT_EQ(nameIn(*table, "00:11:25"), QStringLiteral("Krüger & Gothe"));
+    EXPECT_EQ(nameIn(*table, "00:11:26"), QStringLiteral("Two Blanks"));
 }
 
 TEST(VendorTable, RefusesWhatIsNoPropertyListOfNames)
@@ -133,6 +135,11 @@ TEST(VendorTable, RefusesWhatIsNoPropertyListOfNames)
         propertyList({{"00:11:22", "Plain"}}).chopped(20),
         "<!DOCTYPE plist [<!ENTITY a \"" + QByteArray(5000, 'a') + "\">]>" +
             propertyList({{"00:11:22", "&a;&a;&a;&a;&a;&a;&a;&a;"}}),
+        "<!DOCTYPE plist [<!ATTLIST string a CDATA \"a\">]>" +
+            propertyList({{"00:11:22", "Plain"}}),
+        "<plist version=\"1.0\"><dict><key>00:11:22</key><string>Plain</string><key>a</key>" +
+            QByteArray("<array>").repeated(1'000) + QByteArray("</array>").repeated(1'000) +
+            "</dict></plist>",
         "<plist version=\"1.0\">" + QByteArray("<array>").repeated(1'000'000),
         "<plist version=\"1.0\">" + QByteArray("<dict><key>a</key>").repeated(1'000'000),
     };
