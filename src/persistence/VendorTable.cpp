@@ -61,7 +61,7 @@ void appendSimplified(QByteArray& texts, QByteArrayView text)
 std::optional<VendorTable> VendorTable::fromPropertyList(const QByteArray& bytes, QString& error)
 {
     VendorTable table;
-    // Of a list about half is names; what is too much is given back.
+    // Names are less than half of a list; what is left over is given back.
     table.m_names.reserve(std::min(bytes.size(), kLongestPropertyList) / 2);
     const bool read =
         readTextDictionary(bytes, error, [&](QByteArrayView identifier, QByteArrayView text) {
