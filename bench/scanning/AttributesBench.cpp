@@ -1,8 +1,6 @@
 #include "elements/ElementRun.h"
 #include "model/TSNetwork.h"
-#include "scanning/recorded/ScanInput.h"
-
-#include <QDir>
+#include "support/Beacons.h"
 
 #include <benchmark/benchmark.h>
 
@@ -21,29 +19,6 @@ extern "C" void* malloc(std::size_t size)
 using namespace tessara;
 
 namespace {
-
-void append(ScanResults& beacons, const QString& path)
-{
-    const ScanInput input = openScanInput(path, 0.1);
-    while (const auto scan = input.reader ? input.reader->next() : std::nullopt)
-        beacons.insert(beacons.end(), scan->networks.begin(), scan->networks.end());
-}
-
-/// Beacons of real equipment, or of the bundled recording.
-const ScanResults& beacons()
-{
-    static const ScanResults all = [] {
-        ScanResults result;
-        const QString folder = qEnvironmentVariable("TESSARA_CAPTURES");
-        if (folder.isEmpty())
-            append(result, QStringLiteral(TESSARA_RECORDING));
-        else
-            for (const QFileInfo& file : QDir(folder).entryInfoList({QStringLiteral("*.pcap")}))
-                append(result, file.filePath());
-        return result;
-    }();
-    return all;
-}
 
 /// The attributes of a network anew from each of the beacons.
 void setNetwork(benchmark::State& state)

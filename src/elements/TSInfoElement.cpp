@@ -115,21 +115,30 @@ std::span<const Field> TSInfoElement::fields() const
 
 // Text --------------------------------------------------------------------------------------------
 
+namespace {
+
+void appendAll(std::string& text, std::initializer_list<std::string_view> parts)
+{
+    for (const std::string_view part : parts)
+        text.append(part);
+}
+
+} // namespace
+
 void composeField(const Field& field, std::string_view indent, std::string& lines)
 {
     const bool isEntry = field.fieldName.has_value();
-    const auto& first = isEntry ? field.fieldName : field.fieldSubfieldName;
-    if (first) {
-        lines.append("\n").append(indent).append(*first);
+    if (const auto& first = isEntry ? field.fieldName : field.fieldSubfieldName) {
+        appendAll(lines, {"\n", indent, *first});
         if (field.fieldValue) {
-            lines.append(isEntry ? ": " : " ").append(*field.fieldValue);
+            appendAll(lines, {isEntry ? ": " : " ", *field.fieldValue});
             if (field.fieldNotes)
-                lines.append(isEntry ? " " : ": ").append(*field.fieldNotes);
+                appendAll(lines, {isEntry ? " " : ": ", *field.fieldNotes});
         }
     }
     if (!field.fieldSubfields)
         return;
-    const std::string deeper = fmt::format("    {}", indent);
+    const std::string deeper = std::string(indent) + "    ";
     for (const Field& subfield : *field.fieldSubfields)
         composeField(subfield, deeper, lines);
 }
