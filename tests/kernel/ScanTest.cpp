@@ -5,6 +5,7 @@
 
 #include <cmath>
 #include <future>
+#include <sys/socket.h>
 
 using namespace tessara;
 using namespace tessara::kernel;
@@ -128,6 +129,19 @@ TEST_F(Scan, WaitsForAForeignScanAndThenScans)
         EXPECT_EQ(scan().networks.size(), standingNetworks().size());
     }
     outputOf(QStringLiteral("iw dev other0 del"));
+}
+
+TEST_F(Scan, TellsThatEventsWereLost)
+{
+    Nl80211Socket events;
+    ASSERT_EQ(events.subscribe(NL80211_MULTICAST_GROUP_SCAN), 0);
+    const int smallest = 0; // the kernel makes it hold one event
+    setsockopt(events.fileDescriptor(), SOL_SOCKET, SO_RCVBUF, &smallest, sizeof(smallest));
+    const auto ignore = [](const Nl80211Message&) {};
+    EXPECT_EQ(events.receiveEvents(0, ignore), EventsRead::kNone);
+    scan();
+    EXPECT_EQ(events.receiveEvents(0, ignore), EventsRead::kSomeLost);
+    scan(); // goes on all the same
 }
 
 TEST_F(Scan, EndsWithAnErrorWhenTheInterfaceVanishes)

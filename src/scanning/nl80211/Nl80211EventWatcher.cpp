@@ -90,7 +90,7 @@ void Nl80211EventWatcher::readWiFiEvents()
 {
     bool association = false;
     bool quality = false;
-    m_wifi.receiveEvents(0, [&](const Nl80211Message& event) {
+    const EventsRead read = m_wifi.receiveEvents(0, [&](const Nl80211Message& event) {
         switch (event.command) {
         case NL80211_CMD_CONNECT:
         case NL80211_CMD_ROAM:
@@ -103,9 +103,11 @@ void Nl80211EventWatcher::readWiFiEvents()
             break;
         }
     });
-    if (association)
+    // An observer asks for the state and finds what has changed, or that nothing has.
+    const bool mayHaveMissed = read == EventsRead::kSomeLost;
+    if (association || mayHaveMissed)
         Q_EMIT m_notifications.bssidDidChange();
-    if (quality)
+    if (quality || mayHaveMissed)
         Q_EMIT m_notifications.linkQualityDidChange();
 }
 

@@ -176,14 +176,14 @@ int Nl80211Socket::subscribe(const char* group)
     return 0;
 }
 
-bool Nl80211Socket::receiveEvents(int milliseconds, const Handler& handler)
+EventsRead Nl80211Socket::receiveEvents(int milliseconds, const Handler& handler)
 {
     pollfd descriptor{fileDescriptor(), POLLIN, 0};
     if (poll(&descriptor, 1, milliseconds) <= 0)
-        return false;
+        return EventsRead::kNone;
     const Callbacks callbacks = newCallbacks();
     if (!callbacks)
-        return false;
+        return EventsRead::kNone;
     nl_cb_set(
         callbacks.get(), NL_CB_SEQ_CHECK, NL_CB_CUSTOM,
         [](nl_msg*, void*) -> int {
@@ -192,8 +192,9 @@ bool Nl80211Socket::receiveEvents(int milliseconds, const Handler& handler)
         nullptr);
     nl_cb_set(callbacks.get(), NL_CB_VALID, NL_CB_CUSTOM, handleMessage,
               const_cast<Handler*>(&handler));
-    nl_recvmsgs(m_socket.get(), callbacks.get());
-    return true;
+    // Of the ways to fail the usual one is ENOBUFS, by which the kernel tells that it dropped some.
+    return nl_recvmsgs(m_socket.get(), callbacks.get()) < 0 ? EventsRead::kSomeLost
+                                                            : EventsRead::kSome;
 }
 
 Nl80211Socket::Attributes ofInterface(unsigned index)

@@ -18,6 +18,13 @@ struct NetlinkReply {
     bool interrupted = false; ///< the list changed while it was being read
 };
 
+/// What came of a look at the events of a socket.
+enum class EventsRead {
+    kNone,
+    kSome,
+    kSomeLost, ///< more came than the socket could hold: what has happened must be asked afresh
+};
+
 /// A socket to the kernel's nl80211. Each request and each watcher opens its own, so that none
 /// ever waits for, or reads the answers of, another; a socket is used by one thread at a time.
 class Nl80211Socket {
@@ -41,9 +48,8 @@ public:
     /// Subscribes to the events of a multicast group of nl80211; the socket then serves events
     /// only. @return an errno
     int subscribe(const char* group);
-    /// Hands over the events that come within a time, or at once those that are there. False if
-    /// none came.
-    bool receiveEvents(int milliseconds, const Handler& handler);
+    /// Hands over the events that come within a time, or at once those that are there.
+    EventsRead receiveEvents(int milliseconds, const Handler& handler);
 
 private:
     struct Close {

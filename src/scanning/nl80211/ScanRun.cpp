@@ -55,12 +55,16 @@ ScanEnd awaitEnd(Nl80211Socket& events, ScanProgress progress, const InterfaceIn
 {
     while (SteadyClock::now() < deadline) {
         std::optional<ScanEnd> end;
-        events.receiveEvents(kStepMilliseconds, [&](const Nl80211Message& event) {
-            if (!end)
-                end = progress.take(event);
-        });
+        const EventsRead read =
+            events.receiveEvents(kStepMilliseconds, [&](const Nl80211Message& event) {
+                if (!end)
+                    end = progress.take(event);
+            });
         if (end)
             return *end;
+        // The end may be among what was lost, and would be waited for in vain.
+        if (read == EventsRead::kSomeLost)
+            return ScanEnd::kFinished;
         if (!exists(interface))
             return ScanEnd::kRefused;
         if (!pause.sleep(0))

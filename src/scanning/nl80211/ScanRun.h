@@ -23,7 +23,8 @@ struct ScanRun {
 
 /// Triggers an active scan and blocks until it is over, for kLongestScan at the most. If the radio
 /// is busy with someone else's scan, the end of that one is waited for first, for as long; it may
-/// have been a scan of a single channel and so does not serve in place of ours.
+/// have been a scan of a single channel and so does not serve in place of ours. If the kernel drops
+/// events, the scan counts as finished: what was heard by then stands in the list.
 /// @param ssid  the only name to probe for; none probes for all
 /// @param pause tells when the program shuts down, which ends the wait
 ScanRun runScan(const InterfaceInfo& interface, const std::optional<QByteArray>& ssid,
