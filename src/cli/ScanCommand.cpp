@@ -65,18 +65,24 @@ ExitStatus run(const QCommandLineParser& parser, const QStringList& arguments)
     if (options.watch && list->format == ListOptions::Format::kJSON)
         return wrongUsage(QStringLiteral("--watch shows a table: it goes with no other format"));
 
-    const TerminationSignals signalsOfTheUser([] { QCoreApplication::quit(); });
     ScanRuntime runtime;
+    TerminationSignals::block(); // for the threads that the service starts
     SystemWiFiService service(runtime.clock(), runtime.pause(), runtime.notifications());
+    TerminationSignals::unblock(); // to read a recording may take long
     const QString name = parser.value(QStringLiteral("interface"));
     const auto interface =
         name.isEmpty() ? chooseInterface(service) : service.interfaceWithName(name);
     if (!interface) {
-        complain(name.isEmpty() ? QStringLiteral("this machine has no Wi-Fi interface")
-                                : QStringLiteral("there is no Wi-Fi interface '%1'").arg(name));
-        return kFailed;
+        if (name.isEmpty())
+            complain(QStringLiteral("this machine has no Wi-Fi interface"));
+        else if (!name.startsWith(QStringView(SystemWiFiService::kRecordedPrefix)))
+            complain(QStringLiteral("there is no Wi-Fi interface '%1'").arg(name));
+        return kFailed; // why a recording cannot be played has been told
     }
 
+    // Goes before the runtime, which waits for the engine's thread: a second signal then ends the
+    // program at once.
+    const TerminationSignals signalsOfTheUser([] { QCoreApplication::quit(); });
     ScanSession session(runtime, interface, options);
     QObject::connect(&session, &ScanSession::failed, qApp, &QCoreApplication::quit);
     if (*seconds > 0) {

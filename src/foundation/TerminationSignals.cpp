@@ -27,6 +27,12 @@ void TerminationSignals::block()
     ::pthread_sigmask(SIG_BLOCK, &set, nullptr);
 }
 
+void TerminationSignals::unblock()
+{
+    const sigset_t set = terminationSignals();
+    ::pthread_sigmask(SIG_UNBLOCK, &set, nullptr);
+}
+
 TerminationSignals::TerminationSignals(std::function<void()> onSignal)
 {
     // Blocked here, and in the threads that are started from now on: read from the descriptor.
@@ -47,8 +53,7 @@ TerminationSignals::~TerminationSignals()
     const int descriptor = static_cast<int>(m_notifier->socket());
     m_notifier.reset();
     ::close(descriptor);
-    const sigset_t set = terminationSignals();
-    ::pthread_sigmask(SIG_UNBLOCK, &set, nullptr);
+    unblock();
 }
 
 } // namespace tessara

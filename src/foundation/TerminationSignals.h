@@ -15,6 +15,8 @@ public:
     /// Holds the signals back from this thread and those that it starts: for a main() whose
     /// application object starts threads, before there can be an object of this class.
     static void block();
+    /// Undoes that for this thread: a signal ends the program at once.
+    static void unblock();
 
     explicit TerminationSignals(std::function<void()> onSignal);
     ~TerminationSignals();
