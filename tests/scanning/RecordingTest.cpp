@@ -10,9 +10,7 @@
 
 #include <gmock/gmock.h>
 
-#include <csignal>
 #include <limits>
-#include <sys/resource.h>
 
 using namespace tessara;
 using testing::EndsWith;
@@ -63,27 +61,6 @@ Outcome readRecording(const QByteArray& content)
     outcome.error = reader.error().toStdString();
     return outcome;
 }
-
-/// While it lives, no file of this process can grow beyond a size, as on a full disk.
-class SmallDisk {
-public:
-    explicit SmallDisk(rlim_t bytes)
-    {
-        m_handler = std::signal(SIGXFSZ, SIG_IGN);
-        getrlimit(RLIMIT_FSIZE, &m_before);
-        const rlimit limit{bytes, m_before.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~SmallDisk()
-    {
-        setrlimit(RLIMIT_FSIZE, &m_before);
-        std::signal(SIGXFSZ, m_handler);
-    }
-
-private:
-    rlimit m_before{};
-    void (*m_handler)(int) = nullptr;
-};
 
 } // namespace
 
@@ -150,74 +127,37 @@ TEST_F(RecordingFiles, SayWhyTheyCannotBeWritten)
     EXPECT_FALSE(nowhere.finish());
     EXPECT_THAT(nowhere.error().toStdString(),
                 HasSubstr("no/such/folder.jsonl: could not be written: "));
-
-    for (const char* name : {"full.jsonl", "full.jsonl.gz"}) {
-        SCOPED_TRACE(name);
-        writeFile(path(name), "before");
-        const RecordedScan scan{0, ScanResults(2000, completeNetwork()), true};
-        RecordingWriter writer(path(name));
-        {
-            const SmallDisk disk(1000);
-            writer.write(scan);
-            EXPECT_FALSE(writer.finish());
-        }
-        EXPECT_THAT(writer.error().toStdString(), EndsWith("could not be written: File too large"));
-        EXPECT_EQ(contentOf(path(name)), "before");
-    }
-    EXPECT_EQ(names().size(), 2);
 }
 
-TEST_F(RecordingFiles, ThatAreCutShortGiveWhatTheyHave)
+TEST_F(RecordingFiles, ThatAreDamagedGiveWhatTheyHave)
 {
-    RecordingWriter writer(path("whole.jsonl.gz"));
-    for (int i = 0; i < 3000; ++i) { // different enough not to shrink to nothing
-        ScanDictionary network = completeNetwork();
-        network.informationElementData = QByteArray::number(i * 2654435761u).toHex();
-        writer.write({double(i), {network}, true});
-    }
-    ASSERT_TRUE(writer.finish());
-    const QByteArray whole = contentOf(path("whole.jsonl.gz"));
-    QByteArray damaged = whole;
-    damaged[whole.size() - 8] = char(~damaged[whole.size() - 8]); // of the checksum
-
-    const struct {
-        QByteArray content;
-        const char* error;
-    } cases[] = {
-        {whole.chopped(whole.size() / 3), "broken.jsonl.gz: the compressed data ends too early"},
-        {damaged, "broken.jsonl.gz: the compressed data is damaged"},
-    };
-    for (const auto& c : cases) {
-        writeFile(path("broken.jsonl.gz"), c.content);
-        const ScanInput input = openScanInput(path("broken.jsonl.gz"), 3.0);
-        ASSERT_TRUE(input.reader);
-        const auto scans = allScans(*input.reader);
-        EXPECT_GT(scans.size(), 0u);
-        EXPECT_LE(scans.size(), 3000u);
-        EXPECT_THAT(input.reader->error().toStdString(), EndsWith(c.error));
-    }
-}
-
-TEST_F(RecordingFiles, OfPackedFramesThatAreCutShortGiveWhatTheyHave)
-{
+    QByteArray lines;
     std::vector<PacketToBuild> packets;
-    for (int i = 0; i < 2000; ++i)
-        packets.push_back({double(i), build({.elements = QByteArray::number(i * 2654435761u)})});
-    const QByteArray frames = capture(105, packets);
-    const GzipHandle file(gzopen(QFile::encodeName(path("whole.pcap.gz")).constData(), "wb"));
-    ASSERT_EQ(gzwrite(file.get(), frames.constData(), static_cast<unsigned>(frames.size())),
-              frames.size());
-    gzflush(file.get(), Z_FINISH);
-    const QByteArray whole = contentOf(path("whole.pcap.gz"));
-    writeFile(path("cut.pcap.gz"), whole.chopped(whole.size() / 2));
-
-    const ScanInput input = openScanInput(path("cut.pcap.gz"), 3.0);
-    ASSERT_TRUE(input.reader) << qPrintable(input.error);
-    const auto scans = allScans(*input.reader);
-    EXPECT_GT(scans.size(), 100u);
-    EXPECT_LT(scans.size(), 600u);
-    EXPECT_THAT(input.reader->error().toStdString(),
-                EndsWith("cut.pcap.gz: the compressed data ends too early"));
+    for (int i = 0; i < 8000; ++i) { // more than is unpacked at once, and not all alike
+        const QByteArray content = QByteArray::number(i * 2654435761u);
+        lines +=
+            R"({"time":1,"networks":[{"informationElementData":")" + content.toHex() + "\"}]}\n";
+        packets.push_back({double(i), build({.elements = content})});
+    }
+    for (const auto& [name, content] :
+         {std::pair("a.jsonl.gz", lines), std::pair("a.pcap.gz", capture(105, packets))}) {
+        const GzipHandle file(gzopen(QFile::encodeName(path(name)).constData(), "wb"));
+        ASSERT_GT(gzwrite(file.get(), content.constData(), unsigned(content.size())), 0);
+        gzflush(file.get(), Z_FINISH);
+        const QByteArray whole = contentOf(path(name));
+        QByteArray damaged = whole;
+        damaged[whole.size() - 8] = char(~damaged[whole.size() - 8]); // of the checksum
+        for (const auto& [bytes, error] :
+             {std::pair(whole.chopped(whole.size() / 3), "the compressed data ends too early"),
+              std::pair(damaged, "the compressed data is damaged")}) {
+            writeFile(path(name), bytes);
+            const ScanInput input = openScanInput(path(name), 3.0);
+            ASSERT_TRUE(input.reader) << qPrintable(input.error);
+            EXPECT_GT(allScans(*input.reader).size(), 1000u) << name << ' ' << error;
+            EXPECT_THAT(input.reader->error().toStdString(),
+                        EndsWith(name + std::string(": ") + error));
+        }
+    }
 }
 
 TEST(RecordingReader, TakesRecordingsOfAnyLayout)
@@ -257,26 +197,21 @@ TEST(RecordingReader, NamesTheLineThatIsNoScan)
     const Case cases[] = {
         {"scan", "not JSON"},
         {"{\"time\":1,\"networks\":[]} x", "not JSON"},
-        {"{\"time\":NaN,\"networks\":[]}", "not JSON"},
         {"{\"time\":1,\"networks\":[{\"ssid\":\"\xff\xfe\"}]}", "not JSON"},
         {"", "the line is empty"},
         {"[1]", "not an object"},
-        {"{}", "\"time\" is not"},
         {R"({"time":"1","networks":[]})", "\"time\" is not"},
         {R"({"time":1e300,"networks":[]})", "\"time\" is not"},
-        {R"({"time":1})", "\"networks\" is not"},
         {R"({"time":1,"networks":{}})", "\"networks\" is not"},
         {R"({"time":1,"networks":[{},7]})", "network 2 is not an object"},
         {R"({"time":1,"networks":[{"bssid":7}]})", "network 1: \"bssid\" has"},
         {R"({"time":1,"networks":[{"ssid":null}]})", "\"ssid\" has"},
-        {R"({"time":1,"networks":[{"channelNumber":"6"}]})", "\"channelNumber\" has"},
         {R"({"time":1,"networks":[{"rssiValue":-60.5}]})", "\"rssiValue\" has"},
         {R"({"time":1,"networks":[{"noiseMeasurement":true}]})", "\"noiseMeasurement\" has"},
         {R"({"time":1,"networks":[{"securityMode":9223372036854775808}]})", "\"securityMode\" has"},
         {R"({"time":1,"networks":[{"ibss":1}]})", "\"ibss\" has"},
         {R"({"time":1,"networks":[{"informationElementData":"abc"}]})", "ElementData\" has"},
         {R"({"time":1,"networks":[{"informationElementData":"0g"}]})", "ElementData\" has"},
-        {R"({"time":1,"networks":[{"informationElementData":[0]}]})", "ElementData\" has"},
     };
     const QByteArray good = "{\"time\":1,\"networks\":[]}\n";
     for (const Case& c : cases) {
@@ -306,25 +241,19 @@ TEST(RecordingReader, KeepsNumbersExactly)
 
 TEST(RecordingReader, KnowsAScanWithoutSignals)
 {
-    const QByteArray without = R"({"rssiValue":-120})";
-    const QByteArray with = R"({"rssiValue":-119})";
-    const QByteArray unread = R"({})";
-    struct Case {
-        QByteArray networks;
+    const struct {
+        const char* networks;
         bool recordsSignal;
-    };
-    const Case cases[] = {
-        {without + ',' + without, false},
-        {without + ',' + with, false},
-        {without + ',' + unread, false},
-        {with + ',' + unread, true},
-        {unread, true},
+    } cases[] = {
+        {R"({"rssiValue":-120},{"rssiValue":-119})", false},
+        {R"({"rssiValue":-119},{})", true},
         {"", true},
     };
-    for (const Case& c : cases) {
-        const Outcome outcome = readRecording("{\"time\":1,\"networks\":[" + c.networks + "]}");
+    for (const auto& c : cases) {
+        const Outcome outcome =
+            readRecording(QByteArray("{\"time\":1,\"networks\":[") + c.networks + "]}");
         ASSERT_EQ(outcome.scans.size(), 1u);
-        EXPECT_EQ(outcome.scans[0].recordsSignal, c.recordsSignal) << c.networks.constData();
+        EXPECT_EQ(outcome.scans[0].recordsSignal, c.recordsSignal) << c.networks;
     }
 }
 

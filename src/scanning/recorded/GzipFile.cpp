@@ -54,6 +54,7 @@ bool GzipFile::openForReading()
 
 bool GzipFile::reset()
 {
+    gzclearerr(m_file.get()); // what comes before a damage can be read again
     return gzrewind(m_file.get()) == 0;
 }
 
