@@ -125,7 +125,10 @@ TSActiveScanEngine::Networks TSActiveScanEngine::sweep(std::optional<CWError>& e
             CWScan scan = m_wifi->scanForNetworksWithSSID(m_ssid ? std::optional(m_ssid->toUtf8())
                                                                  : std::nullopt);
             results = std::move(scan.networks);
-            error = results.empty() ? std::move(scan.error) : std::nullopt;
+            error = std::move(scan.error);
+        } else {
+            // What a scan gave that was cut short counts one attempt later.
+            error.reset();
         }
         if (!error && merged.empty())
             merged = withoutDuplicates(results);
