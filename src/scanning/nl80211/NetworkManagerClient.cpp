@@ -7,6 +7,9 @@
 #include <QList>
 #include <QVariantMap>
 
+#include <algorithm>
+#include <limits>
+
 namespace tessara {
 
 namespace {
@@ -108,7 +111,9 @@ std::optional<BootTime> NetworkManagerClient::lastScan(const QString& device) co
     const QDBusMessage reply = property(device, kWireless, QStringLiteral("LastScan"));
     if (isError(reply))
         return std::nullopt;
-    return std::max<qint64>(valueOf(reply).toLongLong(), 0) * kMillisecond;
+    // -1 before the first scan; and no number of milliseconds is to overflow.
+    constexpr BootTime kLatest = std::numeric_limits<BootTime>::max() / kMillisecond;
+    return std::clamp<BootTime>(valueOf(reply).toLongLong(), 0, kLatest) * kMillisecond;
 }
 
 NetworkManagerScan NetworkManagerClient::scan(const QString& interfaceName,
