@@ -24,6 +24,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     std::vector<std::uint32_t> frequencies;
     addScannableFrequencies(message->attributes, frequencies);
     transmitRate(message->attributes);
+    associatedBSSID(message->attributes);
     if (const auto info = interfaceInfo(message->attributes))
         ScanProgress::ofOurs(*info).take(*message);
     return 0;

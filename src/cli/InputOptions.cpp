@@ -1,14 +1,17 @@
 #include "cli/InputOptions.h"
 
+#include "scanning/capture/CaptureReader.h"
+
 #include <cmath>
 
 namespace tessara {
 
 void addInputOptions(QCommandLineParser& parser)
 {
+    const QString usual = QString::number(CaptureReader::kDefaultSweepSeconds, 'f', 1);
     parser.addOption({QStringLiteral("sweep"),
-                      QStringLiteral("How much time of a capture makes one scan (3.0)."),
-                      QStringLiteral("SECONDS"), QStringLiteral("3.0")});
+                      QStringLiteral("How much time of a capture makes one scan (%1).").arg(usual),
+                      QStringLiteral("SECONDS"), usual});
 }
 
 std::optional<double> sweepSeconds(const QCommandLineParser& parser, QString& error)

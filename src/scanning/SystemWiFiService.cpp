@@ -3,16 +3,10 @@
 #include "foundation/Defaults.h"
 #include "foundation/Logging.h"
 #include "scanning/NetworkMerge.h"
+#include "scanning/capture/CaptureReader.h"
 #include "scanning/recorded/RecordedInterface.h"
 
 namespace tessara {
-
-namespace {
-
-/// How much time of a capture makes one scan when it is played, in seconds.
-constexpr double kSweepSeconds = 3.0;
-
-} // namespace
 
 SystemWiFiService::SystemWiFiService(Clock& clock, Pause& pause, NotificationCenter& notifications)
     : m_clock(clock)
@@ -36,9 +30,9 @@ std::shared_ptr<CWInterface> SystemWiFiService::interfaceWithName(const QString&
     if (!name.startsWith(QStringView(kRecordedPrefix)))
         return watched(m_kernel.interfaceWithName(name));
     QString error;
-    std::shared_ptr<RecordedInterface> recorded =
-        RecordedInterface::open(name.mid(QStringView(kRecordedPrefix).size()), kSweepSeconds,
-                                {m_clock, m_pause, m_notifications}, error);
+    std::shared_ptr<RecordedInterface> recorded = RecordedInterface::open(
+        name.mid(QStringView(kRecordedPrefix).size()), CaptureReader::kDefaultSweepSeconds,
+        {m_clock, m_pause, m_notifications}, error);
     if (!recorded)
         qCWarning(lcScanning, "%ls", qUtf16Printable(error));
     // Networks without any signal are to be seen all the same.

@@ -25,9 +25,8 @@ public:
     void add(const BeaconFrame& beacon, const ReceivedFrame& received);
 
     /// The networks so far, and an empty sweep in their place.
-    /// @param withSignal the BSSIDs of which the capture knows signals: what has no reading now
-    /// gets
-    ///     0, and the others -120, the value of a sample without data
+    /// @param withSignal the BSSIDs of which the capture knows signals: without a reading in this
+    /// sweep they get 0; the others get -120, the value of a sample without data
     ScanResults takeResults(const QSet<QString>& withSignal);
 
 private:

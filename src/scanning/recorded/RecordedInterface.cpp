@@ -233,13 +233,13 @@ std::vector<CWNetwork> RecordedInterface::cachedScanResults() const
 
 CWScan RecordedInterface::scanForNetworksWithSSID(const std::optional<QByteArray>& ssid)
 {
-    const CWError off{CWError::kUnspecified, localized("Wi-Fi is off.")};
+    const CWError off{CWError::kUnspecified, localized("Wi-Fi is off")};
     if (!powerOn())
         return {{}, off};
     const double now = position();
     const double rest = scanAt(now).end - now;
     if (!m_surroundings.pause.sleep(std::min(rest + kBeyondTheEdge, kLongestWait)))
-        return {{}, CWError{CWError::kUnspecified, localized("The scan was cut short.")}};
+        return {{}, CWError{CWError::kUnspecified, localized("The program ends")}};
     if (!powerOn())
         return {{}, off};
 
