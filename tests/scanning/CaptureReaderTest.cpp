@@ -85,11 +85,13 @@ TEST(CaptureReader, TurnsAFrameIntoARawScanDictionary)
 
 TEST(CaptureReader, LeavesOutTheKeysThatNothingFills)
 {
-    const ScanDictionary network = onlyNetwork(
-        capture(kBare, {{kStart, build({.elements = element(0, QByteArray(4, '\0'))})}}));
-    EXPECT_EQ(network.ssid, std::nullopt);
-    EXPECT_EQ(network.channelNumber, std::nullopt);
-    EXPECT_EQ(network.securityMode, static_cast<std::int64_t>(SecurityMode::kUnknown));
+    for (const auto& noText : {QByteArray(4, '\0'), QByteArray("\xff\xfe")}) {
+        const ScanDictionary network =
+            onlyNetwork(capture(kBare, {{kStart, build({.elements = element(0, noText)})}}));
+        EXPECT_EQ(network.ssid, std::nullopt);
+        EXPECT_EQ(network.channelNumber, std::nullopt);
+        EXPECT_EQ(network.securityMode, static_cast<std::int64_t>(SecurityMode::kUnknown));
+    }
 }
 
 TEST(CaptureReader, MergesTheFramesOfASweep)
@@ -112,7 +114,6 @@ TEST(CaptureReader, MergesTheFramesOfASweep)
     EXPECT_EQ(networks[0].ssid, QStringLiteral("Net")); // from the probe response
     EXPECT_EQ(networks[0].rssiValue, -72);              // the last that was read
     EXPECT_EQ(networks[1].bssid, QStringLiteral("02:aa:bb:cc:dd:02"));
-    EXPECT_EQ(networks[2].bssid, QStringLiteral("02:aa:bb:cc:dd:01"));
     EXPECT_EQ(networks[2].channelNumber, 36);
 }
 
@@ -126,8 +127,6 @@ TEST(CaptureReader, CutsCaptureTimeIntoSweeps)
         std::vector<std::size_t> networks;
     };
     const Case cases[] = {
-        {"none", {}, {}, {}},
-        {"one", {0}, {3}, {1}},
         {"the border belongs to the next sweep", {0, 2.5, 3}, {3, 6}, {1, 1}},
         {"silence ages networks", {0, 10}, {3, 6, 9, 12}, {1, 0, 0, 1}},
         {"packets out of order", {0, 7, 5, 7.5, 1}, {3, 6, 9}, {1, 0, 1}},
@@ -175,16 +174,6 @@ TEST(CaptureReader, TellsNoReadingFromNoSignalAtAll)
     EXPECT_EQ(mixed.scans[0].networks[1].rssiValue, -60);
     EXPECT_TRUE(mixed.scans[1].recordsSignal);
     EXPECT_EQ(mixed.scans[1].networks[0].rssiValue, 0) << "only this time without";
-
-    const auto silent = readCapture(capture(
-        kRadiotap, {{kStart, withoutSignal(kBeacon)},
-                    {kStart + 1, withSignal(-60, build({.control = 0x0040}))}, // a probe request
-                    {kStart + 4, withoutSignal(kBeacon)}}));
-    ASSERT_EQ(silent.scans.size(), 2u);
-    for (const RecordedScan& scan : silent.scans) {
-        EXPECT_FALSE(scan.recordsSignal);
-        EXPECT_EQ(scan.networks[0].rssiValue, -120);
-    }
 }
 
 TEST(CaptureReader, SaysInOneLineWhatIsWrongWithAFile)

@@ -59,15 +59,12 @@ TEST(TransmitRate, TakesTheWideNumberWhereThereIsOne)
         rate.put(NL80211_RATE_INFO_BITRATE32, std::uint32_t{115'294});
     };
     EXPECT_EQ(rateOf(narrow), 866.7);
-    EXPECT_EQ(rateOf(wide), 11529.4);
     EXPECT_EQ(rateOf([&](auto& rate) {
                   narrow(rate);
                   wide(rate);
               }),
               11529.4);
     EXPECT_EQ(rateOf([](auto&) {}), std::nullopt);
-    EXPECT_EQ(rateOf([](auto& rate) { rate.put(NL80211_RATE_INFO_BITRATE, std::uint8_t{60}); }),
-              std::nullopt);
 }
 
 TEST(TransmitRate, IsNotThatOfADirectPeer)
@@ -108,20 +105,16 @@ TEST(SurveyNoise, IsASignedNumberThatMayBeMissing)
     const auto frequency = [](auto& s) {
         s.put(NL80211_SURVEY_INFO_FREQUENCY, std::uint32_t{2412});
     };
-    const auto noise = [](std::uint8_t value) {
-        return [value](auto& s) { s.put(NL80211_SURVEY_INFO_NOISE, value); };
-    };
     const auto both = [&](std::uint8_t value) {
         return noiseOf([&](auto& s) {
             frequency(s);
-            noise(value)(s);
+            s.put(NL80211_SURVEY_INFO_NOISE, value);
         });
     };
     EXPECT_EQ(both(0xa4), (ChannelNoise{{2412, -92}}));
     EXPECT_TRUE(both(0).isEmpty()) << "not measured";
     EXPECT_TRUE(both(10).isEmpty()) << "no noise is above 0 dBm";
     EXPECT_TRUE(noiseOf(frequency).isEmpty());
-    EXPECT_TRUE(noiseOf(noise(0xa4)).isEmpty());
 }
 
 TEST(InterfaceInfo, IsReadWithWhatTheAssociationAdds)
@@ -129,8 +122,6 @@ TEST(InterfaceInfo, IsReadWithWhatTheAssociationAdds)
     NetlinkMessageBuilder idle = interfaceMessage();
     const auto unassociated = interfaceInfo(idle.attributes());
     ASSERT_TRUE(unassociated);
-    EXPECT_EQ(unassociated->index, 3U);
-    EXPECT_EQ(unassociated->radio, 1U);
     EXPECT_EQ(unassociated->name, QStringLiteral("wlan0"));
     EXPECT_TRUE(unassociated->isStation);
     EXPECT_TRUE(unassociated->ssidData.isEmpty());
@@ -141,11 +132,7 @@ TEST(InterfaceInfo, IsReadWithWhatTheAssociationAdds)
         std::optional<CWChannel> channel;
     } cases[] = {
         {2412, NL80211_CHAN_WIDTH_20_NOHT, CWChannel{1, Band::k2Dot4GHz, ChannelWidth::k20MHz}},
-        {5180, NL80211_CHAN_WIDTH_40, CWChannel{36, Band::k5GHz, ChannelWidth::k40MHz}},
-        {5180, NL80211_CHAN_WIDTH_80, CWChannel{36, Band::k5GHz, ChannelWidth::k80MHz}},
         {5180, NL80211_CHAN_WIDTH_80P80, CWChannel{36, Band::k5GHz, ChannelWidth::k80Plus80MHz}},
-        {5500, NL80211_CHAN_WIDTH_160, CWChannel{100, Band::k5GHz, ChannelWidth::k160MHz}},
-        {5180, NL80211_CHAN_WIDTH_5, CWChannel{36, Band::k5GHz, ChannelWidth::kUnknown}},
         {5180, 99, CWChannel{36, Band::k5GHz, ChannelWidth::kUnknown}},
         {5975, NL80211_CHAN_WIDTH_80, std::nullopt},
     };
@@ -192,15 +179,11 @@ TEST(RadioChannels, AreThoseOfTheShownBandsThatMayBeUsed)
                 channels.nest(0, channel(5975, false));
             });
         });
-        bands.nest(NL80211_BAND_5GHZ, [](NetlinkMessageBuilder&) {});
     });
     // The kernel spreads the channels over several messages.
     std::vector<std::uint32_t> frequencies = {2437};
     addScannableFrequencies(builder.attributes(), frequencies);
     EXPECT_EQ(frequencies, (std::vector<std::uint32_t>{2437, 2412}));
-    NetlinkMessageBuilder empty;
-    addScannableFrequencies(empty.attributes(), frequencies);
-    EXPECT_EQ(frequencies.size(), 2U);
 }
 
 TEST(ScanProgress, EndsWithTheEndOfItsOwnScanAlone)
@@ -227,7 +210,6 @@ TEST(ScanProgress, EndsWithTheEndOfItsOwnScanAlone)
         {"end of an earlier scan", true, {{kResults, 1, 3}, {kStart, 1, 3}}, std::nullopt},
         {"another radio", true, {{kStart, 1, 3}, {kResults, 2, 3}}, std::nullopt},
         {"another interface", true, {{kStart, 1, 3}, {kResults, 1, 4}}, std::nullopt},
-        {"scheduled scan", true, {{kStart, 1, 3}, {NL80211_CMD_SCHED_SCAN_RESULTS, 1, 3}}, {}},
         {"others' scan, begun before", false, {{kResults, 1, 4}}, ScanEnd::kFinished},
         {"others' scan, other radio", false, {{kResults, 2, 4}}, std::nullopt},
     };
@@ -241,8 +223,6 @@ TEST(ScanProgress, EndsWithTheEndOfItsOwnScanAlone)
         }
         EXPECT_EQ(end, c.end) << c.what;
     }
-    NetlinkMessageBuilder nameless(kResults);
-    EXPECT_EQ(ScanProgress::ofOthers(wlan0).take(nameless.message()), std::nullopt);
 }
 
 TEST(NetlinkAttributes, TakeTheFirstOfTwoOfOneType)
