@@ -30,8 +30,10 @@ ExitStatus run(const QCommandLineParser& parser, const QStringList& arguments)
         return kFailed;
     }
     const Replay result = replay(*input.reader, MergeLimits::fromDefaults(Defaults::standard()));
-    if (result.scans == 0 && input.reader->error().isEmpty()) {
-        complain(QStringLiteral("%1 holds no scans").arg(arguments[0]));
+    const QString readError = input.reader->error();
+    if (result.scans == 0) {
+        complain(readError.isEmpty() ? QStringLiteral("%1 holds no scans").arg(arguments[0])
+                                     : readError);
         return kFailed;
     }
     DisplayPipeline pipeline;
@@ -40,9 +42,9 @@ ExitStatus run(const QCommandLineParser& parser, const QStringList& arguments)
     // What could be read is shown even where the input ends in an error.
     const ExitStatus printed =
         printList(pipeline, *options, CellContext::fromDefaults(false), result.lastScanTime);
-    if (input.reader->error().isEmpty())
+    if (readError.isEmpty())
         return printed;
-    complain(input.reader->error());
+    complain(readError);
     return kFailed;
 }
 

@@ -156,9 +156,15 @@ TEST_F(ProgramTest, ShowsWhatCouldBeReadBeforeAnError)
 TEST_F(ProgramTest, SaysThatARecordingHoldsNothing)
 {
     write("none.jsonl", "");
-    const Outcome outcome = run(QStringLiteral("networks none.jsonl"));
-    EXPECT_EQ(outcome.exitCode, 1);
-    EXPECT_EQ(outcome.err, QStringLiteral("tessara-cli: none.jsonl holds no scans\n"));
+    write("torn.jsonl", "{\n");
+    for (const char* expected : {"none.jsonl holds no scans", "torn.jsonl, line 1: not JSON"}) {
+        const Outcome outcome =
+            run(QStringLiteral("networks ") + QString::fromLatin1(expected).left(10));
+        EXPECT_EQ(outcome.exitCode, 1);
+        EXPECT_EQ(outcome.out, QString()) << "not even the titles of a table";
+        EXPECT_TRUE(
+            outcome.err.startsWith(QLatin1String("tessara-cli: ") + QLatin1String(expected)));
+    }
     write("quiet.jsonl", "{\"time\":1,\"networks\":[]}\n");
     EXPECT_EQ(run(QStringLiteral("networks quiet.jsonl")).exitCode, 0) << "a scan that found none";
 }

@@ -65,38 +65,28 @@ TEST_F(NetworkManagerClientTest, AsksForANetworkByTheBytesOfItsName)
     EXPECT_EQ(daemon.state().ssids, QByteArrayList{name});
 }
 
-TEST_F(NetworkManagerClientTest, TakesARefusalSoonAfterAScanAsThatScan)
+TEST_F(NetworkManagerClientTest, TakesARefusalForAScanThatIsOverOrUnderWay)
 {
-    daemon.change([this](auto& state) {
-        state.answer = Answer::kRateLimited;
-        state.lastScan = now - 3000;
-    });
-    const auto scan = client.scan(kWlan0, std::nullopt, pause);
-    EXPECT_EQ(scan.end, End::kFinished);
-    EXPECT_EQ(scan.lastScan, (now - 3000) * kMillisecond);
-    EXPECT_TRUE(pause.sleeps.empty());
-}
-
-TEST_F(NetworkManagerClientTest, TakesARefusalLongAfterAScanAsAScanUnderWay)
-{
-    daemon.change([this](auto& state) {
-        state.answer = Answer::kRateLimited;
-        state.lastScan = now - 60'000;
-    });
+    const struct {
+        std::int64_t lastScan, result;
+    } cases[] = {{now - 3000, now - 3000}, {now - 60'000, now + 1000}};
     finishScanAtSleep(4, now + 1000);
-    const auto scan = client.scan(kWlan0, std::nullopt, pause);
-    EXPECT_EQ(scan.end, End::kFinished);
-    EXPECT_EQ(scan.lastScan, (now + 1000) * kMillisecond);
+    for (const auto& c : cases) {
+        daemon.change([&](auto& state) {
+            state.answer = Answer::kRateLimited;
+            state.lastScan = c.lastScan;
+        });
+        const auto scan = client.scan(kWlan0, std::nullopt, pause);
+        EXPECT_EQ(scan.end, End::kFinished);
+        EXPECT_EQ(scan.lastScan, c.result * kMillisecond);
+    }
+    EXPECT_EQ(pause.sleeps.size(), 4U) << "none for the first";
 }
 
-TEST_F(NetworkManagerClientTest, GivesUpOnAScanThatDoesNotEnd)
+TEST_F(NetworkManagerClientTest, GivesUpOnAScanThatDoesNotEndAndWhenTheProgramEnds)
 {
     EXPECT_EQ(client.scan(kWlan0, std::nullopt, pause).end, End::kTimedOut);
     EXPECT_NEAR(clock.now() - ManualClock().now(), 20, 1);
-}
-
-TEST_F(NetworkManagerClientTest, StopsWaitingWhenTheProgramEnds)
-{
     pause.shutDown = true;
     EXPECT_EQ(client.scan(kWlan0, std::nullopt, pause).end, End::kShutDown);
 }
@@ -109,7 +99,6 @@ TEST_F(NetworkManagerClientTest, SaysWhyItCannotScan)
     } cases[] = {
         {Answer::kDenied, "Not authorized to control networking"},
         {Answer::kNever, "does not answer"},
-        {Answer::kVanish, "does not answer"}, // last: it is gone then
     };
     for (const auto& c : cases) {
         daemon.change([&](auto& state) { state.answer = c.answer; });
@@ -117,8 +106,13 @@ TEST_F(NetworkManagerClientTest, SaysWhyItCannotScan)
         EXPECT_EQ(scan.end, End::kUnavailable) << c.reason;
         EXPECT_THAT(text(scan.reason), HasSubstr(c.reason));
     }
-    EXPECT_THAT(text(client.obstacle(kWlan0)), HasSubstr("not running"));
-    EXPECT_THAT(text(client.setWirelessEnabled(true)), HasSubstr("not running"));
+    PrivateBus emptyBus;
+    const NetworkManagerClient alone(emptyBus.connection());
+    EXPECT_THAT(text(alone.obstacle(kWlan0)), HasSubstr("not running"));
+    EXPECT_THAT(text(alone.setWirelessEnabled(true)), HasSubstr("not running"));
+    const NetworkManagerClient withoutBus(QDBusConnection(QStringLiteral("no such bus")));
+    EXPECT_THAT(text(withoutBus.obstacle(kWlan0)), HasSubstr("no system bus"));
+    EXPECT_EQ(withoutBus.wirelessEnabled(), std::nullopt);
 }
 
 TEST_F(NetworkManagerClientTest, NoticesThatItWentAwayDuringTheScan)
@@ -159,11 +153,4 @@ TEST_F(NetworkManagerClientTest, TurnsWiFiOnAndOff)
 
     daemon.change([](auto& state) { state.wirelessEnabled.reset(); }); // nobody may set it
     EXPECT_THAT(text(client.setWirelessEnabled(true)), HasSubstr("Not authorized"));
-}
-
-TEST(NetworkManagerClient, CopesWithoutABus)
-{
-    const NetworkManagerClient client(QDBusConnection(QStringLiteral("no such bus")));
-    EXPECT_THAT(text(client.obstacle(kWlan0)), HasSubstr("no system bus"));
-    EXPECT_EQ(client.wirelessEnabled(), std::nullopt);
 }

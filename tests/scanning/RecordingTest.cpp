@@ -283,22 +283,15 @@ TEST_F(RecordingFiles, AreToldFromCapturesByTheirEnding)
 {
     const QByteArray recording = R"({"time":1,"networks":[]})";
     const QByteArray frames = capture(105, {{1, build({})}});
-    const struct {
-        const char* name;
-        const QByteArray& content;
-        std::size_t networks;
-    } readable[] = {
-        {"a.jsonl", recording, 0}, {"a.JSONL.gz", recording, 0}, {"a.pcap", frames, 1},
-        {"a.pcapng", frames, 1},   {"a.cap.gz", frames, 1},
-    };
-    for (const auto& c : readable) {
-        SCOPED_TRACE(c.name);
-        writeFile(path(c.name), c.content); // not compressed: the content tells, not the name
-        const ScanInput input = openScanInput(path(c.name), 3.0);
+    for (const auto& [name, content] : {std::pair("a.jsonl", recording),
+                                        {"a.JSONL.gz", recording},
+                                        {"a.pcapng", frames},
+                                        {"a.pcap", frames},
+                                        {"a.cap.gz", frames}}) {
+        writeFile(path(name), content); // not compressed: the content tells, not the name
+        const ScanInput input = openScanInput(path(name), 3.0);
         ASSERT_TRUE(input.reader) << qPrintable(input.error);
-        const auto scans = allScans(*input.reader);
-        ASSERT_EQ(scans.size(), 1u) << qPrintable(input.reader->error());
-        EXPECT_EQ(scans[0].networks.size(), c.networks);
+        EXPECT_EQ(allScans(*input.reader).size(), 1u) << name;
     }
 
     const struct {

@@ -167,18 +167,14 @@ TEST_F(CycleTest, TheEndOfAScanAfterTheStopChangesNothing)
 
 TEST_F(CycleTest, AutoStartFollowsTheSettingAndAFileToShow)
 {
-    struct Case {
-        bool autoScan, showsFile, starts;
-    };
-    for (const Case& c :
-         {Case{true, false, true}, Case{false, false, false}, Case{true, true, false}}) {
-        Defaults::standard().overrideForThisRun(DefaultKey::AutoScan, c.autoScan);
-        cycle.setDisableAutoScan(c.showsFile);
+    for (const auto& [autoScan, showsFile] :
+         {std::pair(true, false), {false, false}, {true, true}}) {
+        Defaults::standard().overrideForThisRun(DefaultKey::AutoScan, autoScan);
+        cycle.setDisableAutoScan(showsFile);
         cycle.doAutoStart();
-        EXPECT_EQ(cycle.isScanning(), c.starts);
-        const std::size_t engines = bodies.size();
+        EXPECT_EQ(cycle.isScanning(), autoScan && !showsFile);
         cycle.doAutoStart();
-        EXPECT_EQ(bodies.size(), engines) << "nothing starts twice";
+        EXPECT_LE(bodies.size(), 1U) << "nothing starts twice";
         cycle.doStop();
     }
 }

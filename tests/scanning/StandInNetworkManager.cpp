@@ -56,9 +56,9 @@ StandInNetworkManager::StandInNetworkManager(QDBusConnection bus)
     QMetaObject::invokeMethod(
         this,
         [this] {
-            m_bus->registerVirtualObject(QStringLiteral("/org/freedesktop/NetworkManager"), this,
-                                         QDBusConnection::SubPath);
-            m_bus->registerService(QStringLiteral("org.freedesktop.NetworkManager"));
+            m_bus.registerVirtualObject(QStringLiteral("/org/freedesktop/NetworkManager"), this,
+                                        QDBusConnection::SubPath);
+            m_bus.registerService(QStringLiteral("org.freedesktop.NetworkManager"));
         },
         Qt::BlockingQueuedConnection);
 }
@@ -117,16 +117,6 @@ bool StandInNetworkManager::handleMessage(const QDBusMessage& message, const QDB
             QStringLiteral("Not authorized to control networking")));
         break;
     case Answer::kNever:
-        break;
-    case Answer::kVanish:
-        // The connection closes with the last that holds it, after this call.
-        QMetaObject::invokeMethod(
-            this,
-            [this] {
-                QDBusConnection::disconnectFromBus(m_bus->name());
-                m_bus.reset();
-            },
-            Qt::QueuedConnection);
         break;
     }
     return true;

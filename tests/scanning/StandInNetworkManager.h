@@ -35,7 +35,7 @@ private:
 /// answers a request to scan is the test's to say.
 class StandInNetworkManager final : public QDBusVirtualObject {
 public:
-    enum class Answer { kAccept, kRateLimited, kDenied, kNever, kVanish };
+    enum class Answer { kAccept, kRateLimited, kDenied, kNever };
 
     explicit StandInNetworkManager(QDBusConnection bus);
     ~StandInNetworkManager() override;
@@ -60,7 +60,7 @@ private:
 
     mutable std::mutex m_mutex;
     State m_state;
-    std::optional<QDBusConnection> m_bus; ///< none once it has vanished
+    QDBusConnection m_bus;
     QThread m_thread;
 };
 
