@@ -1,5 +1,7 @@
 #include "cli/Terminal.h"
 
+#include <QList>
+
 #include <algorithm>
 #include <clocale>
 #include <cstring>

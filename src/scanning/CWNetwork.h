@@ -22,6 +22,9 @@ struct CWChannel {
     bool operator==(const CWChannel&) const = default;
 };
 
+/// Bits of the capability field (IEEE Std 802.11-2020, 9.4.1.4).
+enum CapabilityBit : std::uint16_t { kCapabilityIBSS = 0x0002, kCapabilityPrivacy = 0x0010 };
+
 /// Kinds of security that a scanned network can be asked for, by the service's codes.
 enum class CWSecurity : int { kWEP = 1 };
 
@@ -36,8 +39,7 @@ public:
     QByteArray informationElementData;
     bool ibss = false;
     std::int64_t beaconInterval = 0; ///< time units of 1.024 ms
-    /// The Privacy bit of the capability field (IEEE Std 802.11-2020, 9.4.1.4).
-    bool privacy = false;
+    bool privacy = false;            ///< the Privacy bit of the capability field
 
     /// WEP: the Privacy bit is set and no RSN or WPA element says how else it is protected.
     bool supportsSecurity(CWSecurity security) const;

@@ -5,7 +5,6 @@
 #include "support/ManualClock.h"
 
 #include <QCoreApplication>
-#include <QSignalSpy>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -2,6 +2,7 @@
 
 #include "elements/ElementRun.h"
 #include "model/Band.h"
+#include "scanning/CWNetwork.h"
 
 #include <zlib.h>
 
@@ -27,8 +28,6 @@ constexpr std::size_t kSequenceControl = 22;
 constexpr std::size_t kHeaderSize = 24;
 constexpr std::size_t kHTControlSize = 4;
 constexpr std::size_t kFixedFieldsSize = 12; // timestamp, beacon interval, capability
-constexpr std::uint16_t kCapabilityIBSS = 0x0002;
-constexpr std::uint16_t kCapabilityPrivacy = 0x0010;
 
 constexpr std::size_t kFCSSize = 4;
 

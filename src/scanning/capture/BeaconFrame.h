@@ -2,8 +2,6 @@
 
 #include "scanning/capture/RadioHeaders.h"
 
-#include <QString>
-
 #include <cstdint>
 #include <optional>
 

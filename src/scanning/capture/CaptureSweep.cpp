@@ -3,8 +3,6 @@
 #include "elements/ElementRun.h"
 #include "model/TSDataPoint.h"
 
-#include <algorithm>
-
 namespace tessara {
 
 namespace {

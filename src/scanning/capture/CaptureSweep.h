@@ -7,8 +7,6 @@
 #include <QSet>
 #include <QString>
 
-#include <cstdint>
-#include <optional>
 #include <vector>
 
 namespace tessara {

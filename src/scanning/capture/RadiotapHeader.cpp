@@ -1,7 +1,6 @@
 #include "scanning/capture/RadioHeaders.h"
 
-#include <array>
-#include <vector>
+#include <iterator>
 
 namespace tessara {
 

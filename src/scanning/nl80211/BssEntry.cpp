@@ -15,9 +15,6 @@ namespace tessara {
 namespace {
 
 constexpr int kBSSIDLength = 6;
-// Bits of the capability field (IEEE Std 802.11-2020, figure 9-82).
-constexpr int kIBSS = 0x0002;
-constexpr int kPrivacy = 0x0010;
 // The kernel's times of sighting are this exact.
 constexpr BootTime kSightingAccuracy = 20'000'000;
 
@@ -57,9 +54,9 @@ std::optional<CWNetwork> networkOf(const BssEntry& entry, const ChannelNoise& no
     network.rssiValue = entry.rssi;
     network.noiseMeasurement = noise.value(entry.frequency, 0);
     network.informationElementData = entry.elements;
-    network.ibss = (entry.capability & kIBSS) != 0;
+    network.ibss = (entry.capability & kCapabilityIBSS) != 0;
     network.beaconInterval = entry.beaconInterval;
-    network.privacy = (entry.capability & kPrivacy) != 0;
+    network.privacy = (entry.capability & kCapabilityPrivacy) != 0;
     return network;
 }
 

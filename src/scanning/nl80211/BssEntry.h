@@ -8,7 +8,6 @@
 #include <QHash>
 #include <QString>
 
-#include <cstdint>
 #include <optional>
 #include <vector>
 

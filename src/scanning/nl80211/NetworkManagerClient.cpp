@@ -1,10 +1,11 @@
 #include "scanning/nl80211/NetworkManagerClient.h"
 
+#include "foundation/Localized.h"
+
 #include <QDBusError>
 #include <QDBusMetaType>
 #include <QDBusObjectPath>
 #include <QDBusVariant>
-#include <QList>
 #include <QVariantMap>
 
 #include <algorithm>
@@ -46,20 +47,20 @@ QVariant valueOf(const QDBusMessage& reply)
 
 QString reasonOf(const QDBusMessage& reply)
 {
-    auto notRunning = QStringLiteral("NetworkManager is not running");
+    QString notRunning = localized("NetworkManager is not running");
     if (reply.errorName() == kNoOwner) // what a call that must not start the daemon gets
         return notRunning;
     switch (QDBusError(reply).type()) {
     case QDBusError::ServiceUnknown:
         return notRunning;
     case QDBusError::Disconnected:
-        return QStringLiteral("there is no system bus to reach NetworkManager by");
+        return localized("there is no system bus to reach NetworkManager by");
     case QDBusError::NoReply:
     case QDBusError::Timeout:
     case QDBusError::TimedOut:
-        return QStringLiteral("NetworkManager does not answer");
+        return localized("NetworkManager does not answer");
     default:
-        return QStringLiteral("NetworkManager refuses: %1")
+        return localized("NetworkManager refuses: %1")
             .arg(reply.errorMessage().isEmpty() ? reply.errorName() : reply.errorMessage());
     }
 }
@@ -100,9 +101,9 @@ NetworkManagerClient::Device NetworkManagerClient::findDevice(const QString& int
         return {path, reasonOf(state)};
     const uint code = valueOf(state).toUInt();
     if (code <= kStateUnmanaged)
-        return {path, QStringLiteral("NetworkManager does not manage %1").arg(interfaceName)};
+        return {path, localized("NetworkManager does not manage %1").arg(interfaceName)};
     if (code <= kStateUnavailable)
-        return {path, QStringLiteral("NetworkManager cannot use %1 now").arg(interfaceName), true};
+        return {path, localized("NetworkManager cannot use %1 now").arg(interfaceName), true};
     return {path, std::nullopt, true};
 }
 
@@ -141,7 +142,7 @@ NetworkManagerScan NetworkManagerClient::scan(const QString& interfaceName,
             return {End::kShutDown, {}};
         const auto current = lastScan(path);
         if (!current)
-            return {End::kUnavailable, QStringLiteral("NetworkManager went away during the scan")};
+            return {End::kUnavailable, localized("NetworkManager went away during the scan")};
         if (current != before)
             return {End::kFinished, {}, *current};
     }

@@ -6,6 +6,7 @@
 #include "scanning/nl80211/Rfkill.h"
 
 #include <array>
+#include <cerrno>
 #include <cstring>
 #include <fcntl.h>
 #include <linux/netlink.h>

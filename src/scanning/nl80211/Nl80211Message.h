@@ -2,8 +2,6 @@
 
 #include "scanning/nl80211/NetlinkAttributes.h"
 
-struct nlmsghdr;
-
 namespace tessara {
 
 /// One message of nl80211: a command and its attributes. Views the bytes it was read from.

@@ -2,6 +2,8 @@
 
 #include "scanning/nl80211/Nl80211Socket.h"
 
+#include <algorithm>
+
 namespace tessara {
 
 namespace {

@@ -2,7 +2,7 @@
 
 #include "scanning/recorded/ScanReader.h"
 
-#include <QStringView>
+#include <QString>
 
 #include <memory>
 
