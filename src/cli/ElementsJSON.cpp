@@ -1,5 +1,7 @@
 #include "cli/ElementsJSON.h"
 
+#include "elements/FieldVisit.h"
+
 #include <QJsonObject>
 
 namespace tessara {
@@ -11,27 +13,25 @@ QString text(std::string_view utf8)
     return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
 }
 
-void insertText(QJsonObject& object, const QString& key,
-                const std::optional<std::string_view>& value)
+void insertText(QJsonObject& object, const QString& key, FieldText value)
 {
     if (value)
         object[key] = text(*value);
 }
 
-QJsonArray fieldsJSON(std::span<const Field> fields)
+QJsonObject fieldJSON(const Field& field)
 {
-    QJsonArray array;
-    for (const Field& field : fields) {
-        QJsonObject object;
-        insertText(object, QStringLiteral("fieldName"), field.fieldName);
-        insertText(object, QStringLiteral("fieldSubfieldName"), field.fieldSubfieldName);
-        insertText(object, QStringLiteral("fieldValue"), field.fieldValue);
-        insertText(object, QStringLiteral("fieldNotes"), field.fieldNotes);
-        if (field.fieldSubfields)
-            object[QStringLiteral("fieldSubfields")] = fieldsJSON(*field.fieldSubfields);
-        array.append(object);
+    QJsonObject object;
+    insertText(object, QStringLiteral("fieldName"), field.fieldName);
+    insertText(object, QStringLiteral("fieldSubfieldName"), field.fieldSubfieldName);
+    insertText(object, QStringLiteral("fieldValue"), field.fieldValue);
+    insertText(object, QStringLiteral("fieldNotes"), field.fieldNotes);
+    if (field.fieldSubfields) {
+        QJsonArray subfields;
+        forEachSubfield(field, [&](const Field& row) { subfields.append(fieldJSON(row)); });
+        object[QStringLiteral("fieldSubfields")] = subfields;
     }
-    return array;
+    return object;
 }
 
 } // namespace
@@ -40,7 +40,9 @@ QJsonArray elementsJSON(const std::vector<TSInfoElement>& elements)
 {
     QJsonArray array;
     for (const TSInfoElement& element : elements) {
-        const QJsonArray fields = fieldsJSON(element.fields());
+        QJsonArray fields;
+        for (const Field& field : element.fields())
+            fields.append(fieldJSON(field));
         array.append(QJsonObject{
             {QStringLiteral("ieID"), element.ieID()},
             {QStringLiteral("ieLength"), static_cast<qint64>(element.ieLength())},

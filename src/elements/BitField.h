@@ -37,6 +37,10 @@ consteval BitField flag(std::uint32_t mask, std::string_view name, std::string_v
 consteval BitField value(std::uint32_t mask, std::string_view name,
                          std::span<const ValueText> values)
 {
+    for (const ValueText& row : values) {
+        if (row.text.size() > kLongestValueText)
+            throw "a text is too long";
+    }
     return {mask, name, BitField::Kind::kValue, {}, {}, values};
 }
 

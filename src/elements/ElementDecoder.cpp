@@ -1,6 +1,5 @@
 #include "elements/ElementDecoder.h"
 
-#include "elements/BitFieldItems.h"
 #include "elements/ElementVendor.h"
 
 #include <QUtf8StringView>
@@ -57,16 +56,12 @@ std::string_view ElementDecoder::ouiText(std::size_t offset)
 std::string_view ElementDecoder::vendorNote(Bytes oui)
 {
     const auto vendor = vendorOfOUI(oui);
-    return vendor ? text("({})", vendor->toStdString()) : text("({})", kNullText);
+    return vendor ? concatenated({"(", vendor->toStdString(), ")"}) : "((null))";
 }
 
-std::span<const Field> ElementDecoder::items(const BitFields& bitFields, std::uint32_t value)
+BitItem& ElementDecoder::bitItem()
 {
-    const BitFieldItems items(*this, bitFields.width, value);
-    const std::span<Field> rows = allocateFields(bitFields.fields.size());
-    std::ranges::transform(bitFields.fields, rows.begin(),
-                           [&](const BitField& field) { return items.item(field); });
-    return rows;
+    return make<BitItem>();
 }
 
 } // namespace tessara

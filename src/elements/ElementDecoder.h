@@ -1,9 +1,7 @@
 #pragma once
 
-#include "elements/BitField.h"
+#include "elements/BitItem.h"
 #include "elements/FieldArena.h"
-
-#include <span>
 
 namespace tessara {
 
@@ -52,8 +50,13 @@ public:
 
     // Rows ------------------------------------------------------------------------------------
 
-    /// One item for each bit field of the value.
-    std::span<const Field> items(const BitFields& bitFields, std::uint32_t value);
+    /// The bits of a value, with a row for each of the bit fields.
+    static BitRows items(const BitFields& bitFields, std::uint32_t value)
+    {
+        return {bitFields, value};
+    }
+    /// Makes a row of bits and keeps its texts.
+    BitItem& bitItem();
 
     std::string_view summary() const { return m_summary; }
     void setSummary(std::string_view summary) { m_summary = summary; }

@@ -2,11 +2,13 @@
 
 #include "elements/ValueText.h"
 
+#include <array>
+
 namespace tessara {
 
 namespace {
 
-constexpr ValueText kNames[] = {
+constexpr ValueText kNameTable[] = {
     {0, "Service Set Identifier"},
     {1, "Supported Rates"},
     {2, "FH Parameter Set"},
@@ -81,6 +83,14 @@ constexpr ValueText kNames[] = {
     {195, "VHT Transmit Power Envelope"},
 };
 
+/// The same by identifier.
+constexpr auto kNames = [] {
+    std::array<std::string_view, 256> names{};
+    for (const auto& [id, name] : kNameTable)
+        names[id] = name;
+    return names;
+}();
+
 struct Description {
     std::uint8_t id;
     const char* text;
@@ -138,7 +148,8 @@ constexpr Description kDescriptions[] = {
 
 std::optional<std::string_view> nameOfElement(std::uint8_t id)
 {
-    return textFor(kNames, id);
+    const std::string_view name = kNames[id];
+    return name.empty() ? std::nullopt : std::optional(name);
 }
 
 const char* descriptionOfElement(std::uint8_t id)

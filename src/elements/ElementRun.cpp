@@ -33,7 +33,9 @@ std::optional<QString> networkName(const ElementRun& run)
     const auto ssid = run.find(ElementID::kSSID);
     if (!ssid || std::ranges::all_of(ssid->content, [](std::uint8_t byte) { return byte == 0; }))
         return std::nullopt;
-    QStringDecoder utf8(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
+    // A byte order mark is part of the name like any other character.
+    QStringDecoder utf8(QStringDecoder::Utf8,
+                        QStringDecoder::Flag::Stateless | QStringDecoder::Flag::ConvertInitialBom);
     QString name = utf8(QByteArrayView(ssid->content.data(), ssid->content.size()));
     if (utf8.hasError())
         return std::nullopt;

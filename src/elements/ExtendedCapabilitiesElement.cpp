@@ -92,8 +92,17 @@ constexpr auto kOctet9 = bitFields<8>({
     bits(0xfe, "Reserved"),
 });
 
-constexpr BitFields kOctets[] = {kOctet1, kOctet2, kOctet3, kOctet4, kOctet5,
-                                 kOctet6, kOctet7, kOctet8, kOctet9};
+struct Octet {
+    std::string_view name;
+    BitFields bitFields;
+};
+constexpr Octet kOctets[] = {
+    {"Extended Capabilities (octet 1)", kOctet1}, {"Extended Capabilities (octet 2)", kOctet2},
+    {"Extended Capabilities (octet 3)", kOctet3}, {"Extended Capabilities (octet 4)", kOctet4},
+    {"Extended Capabilities (octet 5)", kOctet5}, {"Extended Capabilities (octet 6)", kOctet6},
+    {"Extended Capabilities (octet 7)", kOctet7}, {"Extended Capabilities (octet 8)", kOctet8},
+    {"Extended Capabilities (octet 9)", kOctet9},
+};
 
 } // namespace
 
@@ -104,8 +113,8 @@ std::span<const Field> parseExtendedCapabities(ElementDecoder& e)
     FieldList& rows = e.list(octets);
     for (std::size_t i = 0; i < octets; ++i) {
         const std::uint8_t octet = e.u8(i);
-        rows.push_back(entryWithName(e.text("Extended Capabilities (octet {})", i + 1),
-                                     e.hex(octet, 2), {}, e.items(kOctets[i], octet)));
+        rows.push_back(entryWithName(kOctets[i].name, e.hex(octet, 2), {},
+                                     e.items(kOctets[i].bitFields, octet)));
     }
     return rows;
 }

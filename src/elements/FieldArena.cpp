@@ -88,11 +88,9 @@ std::string_view FieldArena::hexadecimalString(Bytes bytes, std::size_t start, s
 
 FieldList& FieldArena::list(std::size_t capacity)
 {
-    // Never destroyed: all it holds is in this memory, too, and goes with it.
-    void* place = m_memory.allocate(sizeof(FieldList), alignof(FieldList));
-    auto* list = new (place) FieldList(&m_memory);
-    list->reserve(capacity);
-    return *list;
+    auto& list = make<FieldList>(&m_memory);
+    list.reserve(capacity);
+    return list;
 }
 
 std::span<const Field> FieldArena::fields(std::initializer_list<Field> fields)

@@ -5,7 +5,11 @@
 
 #include <fmt/core.h>
 
+#include <array>
 #include <initializer_list>
+#include <memory_resource>
+#include <new>
+#include <utility>
 
 namespace tessara {
 
@@ -47,13 +51,20 @@ public:
     std::span<const Field> fields(std::initializer_list<Field> fields);
     /// Room for so many rows; they are to be filled.
     std::span<Field> allocateFields(std::size_t count);
+    /// An object that lives as long as this. It is never destroyed: what it holds is to be in this
+    /// memory, too, and goes with it.
+    template <typename Object, typename... Arguments>
+    Object& make(Arguments&&... arguments)
+    {
+        void* place = m_memory.allocate(sizeof(Object), alignof(Object));
+        return *new (place) Object(std::forward<Arguments>(arguments)...);
+    }
 
 private:
     std::string_view formatted(fmt::string_view format, fmt::format_args arguments);
 
-    static constexpr std::size_t kFirstBlock = 4096; // bytes: a small element with all its rows
-
-    std::pmr::monotonic_buffer_resource m_memory{kFirstBlock};
+    std::array<std::byte, 3072> m_firstBlock; ///< enough for most elements
+    std::pmr::monotonic_buffer_resource m_memory{m_firstBlock.data(), m_firstBlock.size()};
 };
 
 } // namespace tessara

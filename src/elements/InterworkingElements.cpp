@@ -1,5 +1,4 @@
 #include "elements/BaseElements.h"
-#include "elements/BitFieldItems.h"
 #include "elements/JoinedText.h"
 #include "elements/ManagementElements.h"
 #include "elements/VenueTypes.h"
@@ -109,14 +108,14 @@ std::span<const Field> parseRoamingConsortium(ElementDecoder& e)
 
     FieldList& rows = e.list(4);
     // The bits of both are those of the first length, and it is meant so.
-    rows.push_back(entryWithName(
-        "Number of ANQP OIs", e.decimal(e.u8(0)), {},
-        e.fields({
-            subEntryWithName("OI #1 Length", stringForBitMask(e, BitWidth::k8, 0x0f, firstLength),
-                             e.decimal(firstLength)),
-            subEntryWithName("OI #2 Length", stringForBitMask(e, BitWidth::k8, 0xf0, firstLength),
-                             e.decimal(secondLength)),
-        })));
+    rows.push_back(
+        entryWithName("Number of ANQP OIs", e.decimal(e.u8(0)), {},
+                      e.fields({
+                          e.bitItem().bitsItemWithBitMask(BitWidth::k8, 0x0f, "OI #1 Length",
+                                                          firstLength, e.decimal(firstLength)),
+                          e.bitItem().bitsItemWithBitMask(BitWidth::k8, 0xf0, "OI #2 Length",
+                                                          firstLength, e.decimal(secondLength)),
+                      })));
     const Bytes all = e.from(0);
     rows.push_back(entryWithName("OI #1", e.hexadecimalString(all, kFirst, firstLength)));
     if (secondLength > 0)

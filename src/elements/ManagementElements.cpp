@@ -8,9 +8,11 @@ namespace tessara {
 
 namespace {
 
+constexpr std::uint8_t kOverTheDS = 0x01;
+constexpr std::string_view kOverTheDSText = "Over-the-DS Fast BSS Transition";
+constexpr std::string_view kOverTheAirText = "Over-the-Air Fast BSS Transition";
 constexpr auto kFTCapabilityAndPolicy = bitFields<8>({
-    flag(0x01, "Fast BSS Transition over DS", "Over-the-DS Fast BSS Transition",
-         "Over-the-Air Fast BSS Transition"),
+    flag(kOverTheDS, "Fast BSS Transition over DS", kOverTheDSText, kOverTheAirText),
     bits(0x02, "Resource Request Protocol Capability"),
 });
 
@@ -19,11 +21,12 @@ constexpr auto kFTCapabilityAndPolicy = bitFields<8>({
 std::span<const Field> parseMobilityDomain(ElementDecoder& e)
 {
     const std::uint8_t policy = e.u8(2);
-    const std::span<const Field> items = e.items(kFTCapabilityAndPolicy, policy);
-    e.setSummary(items[0].fieldNotes.value_or(""));
+    // As the first of its bits says.
+    e.setSummary(policy & kOverTheDS ? kOverTheDSText : kOverTheAirText);
     return e.fields({
         entryWithName("MDID (Mobility Domain Identifier)", e.hex(e.u16(0), 4)),
-        entryWithName("FT Capability and Policy", e.hex(policy, 2), {}, items),
+        entryWithName("FT Capability and Policy", e.hex(policy, 2), {},
+                      e.items(kFTCapabilityAndPolicy, policy)),
     });
 }
 

@@ -1,3 +1,4 @@
+#include "elements/FieldVisit.h"
 #include "elements/JoinedText.h"
 #include "elements/ManagementElements.h"
 
@@ -51,7 +52,15 @@ constexpr auto kOctet5 = bitFields<8>({
     bits(0xfc, "Reserved"),
 });
 
-constexpr BitFields kOctets[] = {kOctet1, kOctet2, kOctet3, kOctet4, kOctet5};
+struct Octet {
+    std::string_view name;
+    BitFields bitFields;
+};
+constexpr Octet kOctets[] = {
+    {"RM Enabled Capabilities (octet 1)", kOctet1}, {"RM Enabled Capabilities (octet 2)", kOctet2},
+    {"RM Enabled Capabilities (octet 3)", kOctet3}, {"RM Enabled Capabilities (octet 4)", kOctet4},
+    {"RM Enabled Capabilities (octet 5)", kOctet5},
+};
 
 } // namespace
 
@@ -61,13 +70,12 @@ std::span<const Field> parseRMEnabledCapability(ElementDecoder& e)
     JoinedText enabled(e, ", ");
     for (std::size_t i = 0; i < std::size(kOctets); ++i) {
         const std::uint8_t octet = e.u8(i);
-        const std::span<const Field> items = e.items(kOctets[i], octet);
-        rows.push_back(entryWithName(e.text("RM Enabled Capabilities (octet {})", i + 1),
-                                     e.hex(octet, 2), {}, items));
-        for (const Field& item : items) {
+        rows.push_back(entryWithName(kOctets[i].name, e.hex(octet, 2), {},
+                                     e.items(kOctets[i].bitFields, octet)));
+        forEachSubfield(rows.back(), [&enabled](const Field& item) {
             if (item.fieldNotes == "Enabled")
                 enabled.add(*item.fieldValue);
-        }
+        });
     }
     e.setSummary(enabled.isEmpty() ? "No capabilities enabled" : enabled.text());
     return rows;

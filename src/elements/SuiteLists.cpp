@@ -39,7 +39,7 @@ Suite::Suite(ElementDecoder& e, std::size_t offset, const SuiteNames& names)
     const std::uint8_t number = e.u8(offset + 3);
     text =
         names.kind == SuiteKind::kCipher ? stringForCipherType(number) : stringForAuthType(number);
-    type = entryWithName(names.type, text, e.text("({})", number));
+    type = entryWithName(names.type, text, e.concatenated({"(", e.decimal(number), ")"}));
 }
 
 SuiteList::SuiteList(ElementDecoder& e, std::size_t offset, const SuiteNames& names)

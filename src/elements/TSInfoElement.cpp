@@ -6,6 +6,7 @@
 #include "elements/ElementID.h"
 #include "elements/ElementNames.h"
 #include "elements/ElementVendor.h"
+#include "elements/FieldVisit.h"
 #include "foundation/Localized.h"
 
 #include <QLocale>
@@ -90,14 +91,14 @@ void TSInfoElement::decode() const
         return;
     m_decoder = std::make_unique<ElementDecoder>(bytes());
     ElementDecoder& e = *m_decoder;
-    FieldList& rows = e.list();
+    std::span<const Field> decoded;
+    if (!m_ieData.isEmpty())
+        decoded = decoderForElement(m_ieID)(e);
+    FieldList& rows = e.list(2 + decoded.size());
     rows.push_back(entryWithName("Element ID", e.decimal(m_ieID)));
     rows.push_back(
         entryWithName("Length", e.decimal(static_cast<std::int64_t>(ieLength())), "bytes"));
-    if (!m_ieData.isEmpty()) {
-        const std::span<const Field> decoded = decoderForElement(m_ieID)(e);
-        rows.insert(rows.end(), decoded.begin(), decoded.end());
-    }
+    rows.insert(rows.end(), decoded.begin(), decoded.end());
     m_ieFields = rows;
 }
 
@@ -115,42 +116,49 @@ std::span<const Field> TSInfoElement::fields() const
 
 // Text --------------------------------------------------------------------------------------------
 
-namespace {
-
-void appendAll(std::string& text, std::initializer_list<std::string_view> parts)
-{
-    for (const std::string_view part : parts)
-        text.append(part);
-}
-
-} // namespace
-
-void composeField(const Field& field, std::string_view indent, std::string& lines)
+void composeField(const Field& field, std::string_view indent, DumpBuffer& lines)
 {
     const bool isEntry = field.fieldName.has_value();
-    if (const auto& first = isEntry ? field.fieldName : field.fieldSubfieldName) {
-        appendAll(lines, {"\n", indent, *first});
+    if (const FieldText first = isEntry ? field.fieldName : field.fieldSubfieldName) {
+        constexpr std::size_t kPunctuation = 8; // bytes, at most
+        lines.makeRoom(kPunctuation + indent.size() + first.size() + field.fieldValue.size() +
+                       field.fieldNotes.size());
+        lines.put('\n');
+        lines.put(indent);
+        lines.put(*first);
         if (field.fieldValue) {
-            appendAll(lines, {isEntry ? ": " : " ", *field.fieldValue});
-            if (field.fieldNotes)
-                appendAll(lines, {isEntry ? " " : ": ", *field.fieldNotes});
+            if (isEntry)
+                lines.put(':');
+            lines.put(' ');
+            lines.put(*field.fieldValue);
+        }
+        if (field.fieldValue && field.fieldNotes) {
+            if (!isEntry)
+                lines.put(':');
+            lines.put(' ');
+            lines.put(*field.fieldNotes);
         }
     }
     if (!field.fieldSubfields)
         return;
     const std::string deeper = std::string(indent) + "    ";
-    for (const Field& subfield : *field.fieldSubfields)
-        composeField(subfield, deeper, lines);
+    forEachSubfield(field, [&](const Field& row) { composeField(row, deeper, lines); });
 }
 
 std::string TSInfoElement::ieDump() const
 {
-    std::string dump = ieName();
-    if (!ieSummary().empty())
-        dump.append(" - ").append(ieSummary());
+    const std::string name = ieName();
+    const std::string_view summary = ieSummary();
+    DumpBuffer dump;
+    dump.makeRoom(name.size() + 3 + summary.size());
+    dump.put(name);
+    if (!summary.empty()) {
+        dump.put(" - ");
+        dump.put(summary);
+    }
     for (const Field& field : fields())
         composeField(field, "    ", dump);
-    return dump;
+    return std::string(dump.text());
 }
 
 // Runs --------------------------------------------------------------------------------------------
@@ -162,7 +170,10 @@ std::vector<TSInfoElement> informationElements(const QByteArray& run)
         const auto id = static_cast<std::uint8_t>(run[offset]);
         const auto length =
             offset + 1 < run.size() ? static_cast<std::uint8_t>(run[offset + 1]) : 0;
-        elements.emplace_back(id, run.mid(offset + 2, length).leftJustified(length, '\0'));
+        QByteArray data = run.mid(offset + 2, length);
+        if (data.size() < length)
+            data = data.leftJustified(length, '\0');
+        elements.emplace_back(id, std::move(data));
         offset += 2 + length;
     }
     return elements;

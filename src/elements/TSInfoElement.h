@@ -1,5 +1,6 @@
 #pragma once
 
+#include "elements/DumpBuffer.h"
 #include "elements/Field.h"
 #include "foundation/ByteReader.h"
 
@@ -55,7 +56,7 @@ private:
 };
 
 /// Appends a row and those below it, each as a line behind a line feed and an indent.
-void composeField(const Field& field, std::string_view indent, std::string& lines);
+void composeField(const Field& field, std::string_view indent, DumpBuffer& lines);
 
 /// Cuts a run of elements as beacons carry it. The order is kept. An element that the run cuts
 /// short has its length all the same, and zeros where bytes are missing.

@@ -114,10 +114,10 @@ Field mcsMap(ElementDecoder& e, std::string_view name, std::size_t offset, const
              const BitFields& highestRate)
 {
     FieldList& rows = e.list(kStreamsOfMap + 1);
-    for (const Field& item : e.items(map, e.u16(offset)))
-        rows.push_back(item);
-    for (const Field& item : e.items(highestRate, e.u16(offset + 2)))
-        rows.push_back(item);
+    for (const BitField& field : map.fields)
+        rows.push_back(e.bitItem().item(field, map.width, e.u16(offset)));
+    for (const BitField& field : highestRate.fields)
+        rows.push_back(e.bitItem().item(field, highestRate.width, e.u16(offset + 2)));
     return entryWithName(name, e.hex(e.u16(offset), 8), {}, rows);
 }
 

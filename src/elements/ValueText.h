@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <span>
@@ -12,6 +13,9 @@ struct ValueText {
     std::uint32_t number;
     std::string_view text;
 };
+
+/// The longest text of such a table that is shown beside its number.
+inline constexpr std::size_t kLongestValueText = 112;
 
 /// What stands where there is no text for a number but something has to stand.
 inline constexpr std::string_view kNullText = "(null)";

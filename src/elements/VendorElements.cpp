@@ -33,7 +33,8 @@ Field data(ElementDecoder& e, std::size_t offset)
 
 std::span<const Field> parseVendorSpecificIE(ElementDecoder& e)
 {
-    FieldList& rows = e.list();
+    constexpr std::size_t kTypicalRows = 16;
+    FieldList& rows = e.list(kTypicalRows);
     rows.push_back(entryWithName("OUI", e.ouiText(0), e.vendorNote(e.from(0))));
     rows.push_back(entryWithName("Vendor Specific Type", e.decimal(e.u8(3))));
     const auto vendor = std::ranges::find_if(kVendors, [&e](const VendorDecoder& known) {

@@ -1,5 +1,6 @@
 #include "elements/WPSElement.h"
 
+#include "elements/FieldVisit.h"
 #include "elements/JoinedText.h"
 
 #include <QString>
@@ -114,7 +115,7 @@ class WPSAttributes {
 public:
     explicit WPSAttributes(ElementDecoder& e)
         : m_e(e)
-        , m_rows(e.list())
+        , m_rows(e.list(kTypicalRows))
         , m_summary(e, "; ")
     {
     }
@@ -122,6 +123,8 @@ public:
     std::span<const Field> parse();
 
 private:
+    static constexpr std::size_t kTypicalRows = 16;
+
     void show(std::uint16_t type);
     void addString(std::string_view name, std::size_t longest);
     void addText(std::string_view name, std::span<const ValueText> texts);
@@ -213,13 +216,12 @@ void WPSAttributes::addText(std::string_view name, std::span<const ValueText> te
 
 void WPSAttributes::addConfigurationMethods()
 {
-    const std::span<const Field> items =
-        m_e.items(kConfigurationMethods, m_e.u16BigEndian(m_offset));
+    const BitRows items = m_e.items(kConfigurationMethods, m_e.u16BigEndian(m_offset));
     JoinedText methods(m_e, ", ");
-    for (const Field& item : items) {
+    forEachSubfield(entryWithName({}, {}, {}, items), [&methods](const Field& item) {
         if (item.fieldNotes == "Yes")
             methods.add(*item.fieldValue);
-    }
+    });
     m_rows.push_back(entryWithName("Configuration Methods", methods.text(), {}, items));
     if (!methods.isEmpty())
         m_summary.add(m_e.concatenated({"Methods: ", methods.text()}));

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "elements/BitField.h"
+#include "elements/Field.h"
+
+#include <array>
+
+namespace tessara {
+
+/// The bits of a value under a mask, most significant first, with a blank after each four: "."
+/// where the mask has none.
+/// @param room takes the text
+std::string_view stringForBitMask(BitWidth width, std::uint32_t mask, std::uint32_t value,
+                                  std::array<char, 39>& room);
+
+/// Makes the row of some bits of a value. The row's texts live in this.
+class BitItem {
+public:
+    Field boolItemWithBitMask(BitWidth width, std::uint32_t mask, std::string_view description,
+                              std::uint32_t value, std::string_view trueString,
+                              std::string_view falseString);
+    /// A number without a text is shown as "(null)", and as number.
+    Field valueItemWithBitMask(BitWidth width, std::uint32_t mask, std::string_view description,
+                               std::uint32_t value, std::span<const ValueText> valueString);
+    Field decimalItemWithBitMask(BitWidth width, std::uint32_t mask, std::string_view description,
+                                 std::uint32_t value);
+    Field hexItemWithBitMask(BitWidth width, std::uint32_t mask, std::string_view description,
+                             std::uint32_t value);
+    Field bitsItemWithBitMask(BitWidth width, std::uint32_t mask, std::string_view description,
+                              std::uint32_t value, FieldText notes = {});
+
+    Field item(const BitField& field, BitWidth width, std::uint32_t value);
+
+private:
+    std::string_view textAndNumber(BitWidth width, std::string_view text, std::uint32_t number);
+
+    std::array<char, 39> m_bits;
+    std::array<char, kLongestValueText + 16> m_notes;
+};
+
+} // namespace tessara
