@@ -55,35 +55,6 @@ struct OneName final : VendorDirectory, DeviceNameDirectory, AnnotationsDirector
 
 } // namespace
 
-TEST(TSNetwork, NormalizesItsAddress)
-{
-    const std::pair<const char*, const char*> cases[] = {
-        {"0:1a:2:3:4b:5", "00:1A:02:03:4B:05"},
-        {"a:b:c:d:e:f", "0A:0B:0C:0D:0E:0F"},
-        {"00:1A:02:03:4B:05", "00:1A:02:03:4B:05"},
-        {"", ""},
-    };
-    for (const auto& [raw, normalized] : cases)
-        EXPECT_EQ(TSNetwork(dictionary(raw), kNow).bssid().toStdString(), normalized);
-}
-
-TEST(TSNetwork, HasItsNameFromTheDictionaryAndIsHiddenWithoutOne)
-{
-    ScanDictionary d = dictionary();
-    TSNetwork network(d, kNow);
-    EXPECT_TRUE(network.isHidden());
-    EXPECT_EQ(network.ssid().toStdString(), "<Hidden Network>");
-
-    d.ssid = QString(); // a name, but an empty one
-    network.setNetwork(d);
-    EXPECT_FALSE(network.isHidden());
-    EXPECT_EQ(network.ssid().toStdString(), "<Hidden Network>");
-
-    d.ssid = QStringLiteral("Café");
-    network.setNetwork(d);
-    EXPECT_EQ(network.ssid().toStdString(), "Café");
-}
-
 TEST(TSNetwork, KnowsTheBandAndTheFrequencyOfItsChannel)
 {
     struct Case {
