@@ -1,11 +1,12 @@
 #include "model/NetworkAttributes.h"
 
 #include "elements/ElementID.h"
-#include "foundation/ByteReader.h"
 #include "model/Amendments.h"
 #include "model/Band.h"
 #include "model/PhyMode.h"
+#include "model/PlacedElement.h"
 #include "model/RateSet.h"
+#include "model/SecurityElements.h"
 
 #include <QStringDecoder>
 
@@ -19,9 +20,8 @@ namespace {
 
 using namespace ElementID;
 
-// Organizations of vendor elements and of suites.
+// Organizations of vendor elements.
 enum : std::uint32_t {
-    kIEEE = 0x000FAC,
     kMicrosoft = 0x0050F2,
     kWiFiAlliance = 0x506F9A,
     kAruba = 0x000B86,
@@ -29,73 +29,6 @@ enum : std::uint32_t {
     kRouterboard = 0x000C42,
     kZebra = 0x00A0F8,
 };
-
-/// An element at its place in the bytes. Fields are read by their number from the identifier on
-/// (the content begins at 2), and may lie beyond the element's own length.
-class Element {
-public:
-    Element(const ByteReader& data, std::size_t place)
-        : id(data.u8OrZero(place))
-        , length(data.u8OrZero(place + 1))
-        , m_data(data)
-        , m_place(place)
-    {
-    }
-
-    const std::uint8_t id;
-    const std::size_t length;
-
-    std::optional<std::uint8_t> byte(std::size_t number) const
-    {
-        return m_data.u8(m_place + number);
-    }
-    /// Whether the byte exists and has one of the bits set, and whether it exists and has none.
-    bool has(std::size_t number, std::uint8_t mask) const
-    {
-        return (byteOrZero(number) & mask) != 0;
-    }
-    bool lacks(std::size_t number, std::uint8_t mask) const
-    {
-        const auto value = byte(number);
-        return value && (*value & mask) == 0;
-    }
-    std::uint8_t byteOrZero(std::size_t number) const { return m_data.u8OrZero(m_place + number); }
-    std::optional<std::uint16_t> u16(std::size_t number) const
-    {
-        return m_data.u16(m_place + number);
-    }
-    std::optional<std::uint16_t> u16BigEndian(std::size_t number) const
-    {
-        return m_data.u16BigEndian(m_place + number);
-    }
-    Bytes bytes(std::size_t number, std::size_t count) const
-    {
-        return m_data.slice(m_place + number, count);
-    }
-    Bytes content() const { return bytes(2, length); }
-    /// Of a vendor element, or of a suite.
-    std::uint32_t oui(std::size_t number) const
-    {
-        return std::uint32_t{byteOrZero(number)} << 16 |
-               std::uint32_t{byteOrZero(number + 1)} << 8 | byteOrZero(number + 2);
-    }
-
-private:
-    const ByteReader& m_data;
-    const std::size_t m_place;
-};
-
-template <typename Visit>
-void forEachElement(const ByteReader& data, Visit visit)
-{
-    for (std::size_t place = 0; data.contains(place, 2);) {
-        const Element element(data, place);
-        if (!data.contains(place + 2, element.length))
-            return;
-        visit(element);
-        place += element.length + 2;
-    }
-}
 
 /// Text up to a zero byte.
 QString asciiText(Bytes bytes)
@@ -151,10 +84,10 @@ public:
             m_dictionary.securityMode.value_or(static_cast<std::int64_t>(SecurityMode::kUnknown)));
         if (m_dictionary.informationElementData)
             readElements(*m_dictionary.informationElementData);
-        if (m_noTransition && m_result.fastBssTransition >= 0)
+        if (m_security.lacksTransition() && m_result.fastBssTransition >= 0)
             m_result.fastBssTransition += 2;
         derivePhyMode();
-        deriveSecurityMode();
+        m_result.securityMode = m_security.mode(m_result.securityMode);
         if (m_result.phyMode != 0 && m_result.streams == 0)
             m_result.streams = 1;
         return std::move(m_result);
@@ -183,18 +116,20 @@ private:
     {
         const ByteReader data(Bytes(reinterpret_cast<const std::uint8_t*>(elements.constData()),
                                     static_cast<std::size_t>(elements.size())));
-        m_result.cipherType = 0;
-        forEachElement(data, [this](const Element& element) { readIdentity(element); });
-        forEachElement(data, [this](const Element& element) { readOperation(element); });
+        forEachElement(data, [this](const PlacedElement& element) { readIdentity(element); });
+        forEachElement(data, [this](const PlacedElement& element) { readOperation(element); });
         deriveWidth();
-        forEachElement(data, [this](const Element& element) { readMCSRates(element); });
-        forEachElement(data, [this](const Element& element) { readLegacyRates(element); });
+        forEachElement(data, [this](const PlacedElement& element) { readMCSRates(element); });
+        forEachElement(data, [this](const PlacedElement& element) { readLegacyRates(element); });
         storeRates();
+        m_result.cipherType = m_security.cipherType();
+        if (m_security.protectsManagement())
+            m_amendments.add('w');
         m_result.amendments = m_amendments.letters();
     }
 
     // First walk: name, channel, country, and what an element says by being there.
-    void readIdentity(const Element& element)
+    void readIdentity(const PlacedElement& element)
     {
         switch (element.id) {
         case kSSID:
@@ -246,7 +181,7 @@ private:
     }
 
     // Second walk: load, HT and VHT operation, security, and what vendors add.
-    void readOperation(const Element& element)
+    void readOperation(const PlacedElement& element)
     {
         switch (element.id) {
         case kBSSLoad:
@@ -258,9 +193,7 @@ private:
             break;
         case kRSN:
             m_amendments.add('i');
-            m_hasRSN = true;
-            if (element.length >= 9)
-                readRSNSuites(element);
+            m_security.addRSN(element);
             break;
         case kMobilityDomain:
             m_amendments.add('r');
@@ -299,7 +232,7 @@ private:
         }
     }
 
-    void readLoad(const Element& element)
+    void readLoad(const PlacedElement& element)
     {
         m_amendments.add('e');
         if (element.length != 4 && element.length != 5)
@@ -311,7 +244,7 @@ private:
             std::max(m_result.channelUtilizationMax, m_result.channelUtilization);
     }
 
-    void readVendorElement(const Element& element)
+    void readVendorElement(const PlacedElement& element)
     {
         const std::uint8_t type = element.byteOrZero(5);
         switch (element.oui(2)) {
@@ -338,14 +271,13 @@ private:
         }
     }
 
-    void readMicrosoftElement(const Element& element, std::uint8_t type)
+    void readMicrosoftElement(const PlacedElement& element, std::uint8_t type)
     {
         constexpr std::uint8_t kWPA = 1;
         constexpr std::uint8_t kWMM = 2;
         constexpr std::uint8_t kWPS = 4;
         if (type == kWPA) {
-            m_hasWPA = true;
-            readSuites(element, kMicrosoft, 12);
+            m_security.addWPA(element);
         } else if (type == kWMM) {
             m_amendments.add('e');
         } else if (type == kWPS) {
@@ -355,7 +287,7 @@ private:
         }
     }
 
-    void readWPSState(const Element& element)
+    void readWPSState(const PlacedElement& element)
     {
         constexpr std::uint16_t kState = 0x1044;
         constexpr std::uint16_t kAPSetupLocked = 0x1057;
@@ -378,7 +310,7 @@ private:
         }
     }
 
-    void readRouterboardName(const Element& element)
+    void readRouterboardName(const PlacedElement& element)
     {
         for (std::size_t i = 1; i < element.length;) {
             const auto length = element.byte(i + 6);
@@ -387,55 +319,6 @@ private:
             if (element.byteOrZero(i + 5) == 1 && *length >= 11)
                 m_result.deviceName = asciiText(element.bytes(i + 17, *length - std::size_t{10}));
             i += std::size_t{2} + *length;
-        }
-    }
-
-    void readRSNSuites(const Element& element)
-    {
-        const std::size_t capabilities = readSuites(element, kIEEE, 8);
-        if (element.has(capabilities, 0x80)) // management frame protection capable
-            m_amendments.add('w');
-    }
-
-    /// Reads the pairwise and the key management suites from the count of the former on.
-    /// @return the number of the byte behind them
-    std::size_t readSuites(const Element& element, std::uint32_t oui, std::size_t number)
-    {
-        // Of the counts only the low byte is taken; that of the key managements has a sign.
-        const std::uint8_t pairwise = element.byteOrZero(number);
-        number += 2;
-        for (int i = 0; i < pairwise; ++i, number += 4) {
-            if (element.oui(number) == oui)
-                m_result.cipherType |= cipherBit(element.byteOrZero(number + 3));
-        }
-        const std::uint8_t managements = element.byteOrZero(number);
-        constexpr std::uint8_t kSign = 0x80;
-        number += 2;
-        bool hasTransition = false;
-        for (int i = 0; i < managements && !(managements & kSign); ++i, number += 4) {
-            if (element.oui(number) != oui)
-                continue;
-            const std::uint8_t type = element.byteOrZero(number + 3);
-            m_enterprise |= type == 1 || type == 3 || type == 5;
-            hasTransition |= type == 3 || type == 4;
-        }
-        m_noTransition |= !hasTransition;
-        return number;
-    }
-
-    static int cipherBit(std::uint8_t suite)
-    {
-        switch (suite) {
-        case 1:
-            return 1; // WEP-40
-        case 2:
-            return 2; // TKIP
-        case 4:
-            return 4; // CCMP
-        case 5:
-            return 8; // WEP-104
-        default:
-            return 0;
         }
     }
 
@@ -454,7 +337,7 @@ private:
     }
 
     // Third walk: streams, and the rates that follow from the MCS sets.
-    void readMCSRates(const Element& element)
+    void readMCSRates(const PlacedElement& element)
     {
         if (element.id == kHTCapabilities)
             readHTRates(element);
@@ -462,7 +345,7 @@ private:
             readVHTRates(element);
     }
 
-    void readHTRates(const Element& element)
+    void readHTRates(const PlacedElement& element)
     {
         constexpr std::size_t kIndexes = 32; // the equal modulations of up to four streams
         const bool isWide = m_width == ChannelWidth::k40MHz;
@@ -479,7 +362,7 @@ private:
         m_result.streams = static_cast<int>(highest / 8 + 1);
     }
 
-    void readVHTRates(const Element& element)
+    void readVHTRates(const PlacedElement& element)
     {
         constexpr std::uint8_t kNotSupported = 3;
         constexpr std::size_t kLowestTopIndex = 7;
@@ -502,7 +385,7 @@ private:
     }
 
     // Fourth walk: legacy rates, and what Cisco adds.
-    void readLegacyRates(const Element& element)
+    void readLegacyRates(const PlacedElement& element)
     {
         switch (element.id) {
         case kSupportedRates:
@@ -520,7 +403,7 @@ private:
         }
     }
 
-    void readCiscoElement(const Element& element)
+    void readCiscoElement(const PlacedElement& element)
     {
         constexpr std::uint8_t kDTPC = 0;
         constexpr std::uint8_t kClientMFP = 20;
@@ -567,20 +450,6 @@ private:
         }
     }
 
-    void deriveSecurityMode()
-    {
-        const SecurityMode given = m_result.securityMode;
-        if (given != SecurityMode::kUnknown && given != SecurityMode::kWEP)
-            return;
-        using enum SecurityMode;
-        if (m_hasRSN && m_hasWPA)
-            m_result.securityMode = m_enterprise ? kWPAAndWPA2Enterprise : kWPAAndWPA2Personal;
-        else if (m_hasWPA)
-            m_result.securityMode = m_enterprise ? kWPAEnterprise : kWPAPersonal;
-        else if (m_hasRSN)
-            m_result.securityMode = m_enterprise ? kWPA2Enterprise : kWPA2Personal;
-    }
-
     bool hasAnyRate(std::initializer_list<double> wanted) const
     {
         return std::ranges::any_of(m_result.rates, [&](double rate) {
@@ -606,6 +475,7 @@ private:
     std::int64_t m_previousChannel = 0;
 
     Amendments m_amendments;
+    SecurityElements m_security;
     RateSet m_rates;
     ChannelWidth m_width = ChannelWidth::kUnknown;
     std::int64_t m_modeWord = 0;
@@ -614,10 +484,6 @@ private:
     bool m_shortGI80 = false;
     bool m_shortGI160 = false;
     bool m_hasHTOperation = false;
-    bool m_hasRSN = false;
-    bool m_hasWPA = false;
-    bool m_enterprise = false;
-    bool m_noTransition = false;
 };
 
 } // namespace
