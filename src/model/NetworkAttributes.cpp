@@ -54,7 +54,9 @@ QString ssidText(Bytes content)
     Bytes name = content.first(std::min(content.size(), kLongestSSID));
     const auto end = std::ranges::find(name, std::uint8_t{0});
     name = name.first(static_cast<std::size_t>(end - name.begin()));
-    QStringDecoder utf8(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
+    // A mark of the byte order is a character of the name as any other.
+    QStringDecoder utf8(QStringDecoder::Utf8,
+                        QStringDecoder::Flag::Stateless | QStringDecoder::Flag::ConvertInitialBom);
     QString text = utf8(QByteArrayView(name.data(), static_cast<qsizetype>(name.size())));
     return utf8.hasError() ? QString() : text;
 }

@@ -110,6 +110,7 @@ CASES = [
         ("up to a zero", element(0, "480069"), "H", False),
         ("an empty one replaces nothing", ssid("Home") + "0000", "Home", False),
         ("a later one does", ssid("Home") + ssid("B"), "B", False),
+        ("a byte order mark is part of it", element(0, "efbbbf48"), "\ufeffH", False),
         ("no UTF-8", element(0, "c328"), HIDDEN, True),
         ("32 bytes", ssid("ä" * 16), "ä" * 16, False),
         ("33 bytes at the most", ssid("D" * 40), "D" * 33, False),
