@@ -51,7 +51,7 @@ public:
     // Rows ------------------------------------------------------------------------------------
 
     /// The bits of a value, with a row for each of the bit fields.
-    static BitRows items(const BitFields& bitFields, std::uint32_t value)
+    static BitRows bitRows(const BitFields& bitFields, std::uint32_t value)
     {
         return {bitFields, value};
     }

@@ -114,7 +114,7 @@ std::span<const Field> parseExtendedCapabities(ElementDecoder& e)
     for (std::size_t i = 0; i < octets; ++i) {
         const std::uint8_t octet = e.u8(i);
         rows.push_back(entryWithName(kOctets[i].name, e.hex(octet, 2), {},
-                                     e.items(kOctets[i].bitFields, octet)));
+                                     e.bitRows(kOctets[i].bitFields, octet)));
     }
     return rows;
 }

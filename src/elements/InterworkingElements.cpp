@@ -58,7 +58,7 @@ std::span<const Field> parseInterworking(ElementDecoder& e)
 
     const std::uint8_t options = e.u8(0);
     rows.push_back(entryWithName("Access Network Options", e.hex(options, 2), {},
-                                 e.items(kAccessNetworkOptions, options)));
+                                 e.bitRows(kAccessNetworkOptions, options)));
     summary.add(textFor(kAccessNetworkTypes, options & kNetworkType).value_or(kNullText));
     if (options & kInternet)
         summary.add("Provides Internet Connectivity");

@@ -26,7 +26,7 @@ std::span<const Field> parseMobilityDomain(ElementDecoder& e)
     return e.fields({
         entryWithName("MDID (Mobility Domain Identifier)", e.hex(e.u16(0), 4)),
         entryWithName("FT Capability and Policy", e.hex(policy, 2), {},
-                      e.items(kFTCapabilityAndPolicy, policy)),
+                      e.bitRows(kFTCapabilityAndPolicy, policy)),
     });
 }
 

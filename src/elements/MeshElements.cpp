@@ -78,9 +78,9 @@ std::span<const Field> parseMeshConfiguration(ElementDecoder& e)
     const std::uint8_t formation = e.u8(kFormationInfo);
     const std::uint8_t capability = e.u8(kCapability);
     rows.push_back(entryWithName("Mesh Formation Info", e.text("0x{:02X}", formation), {},
-                                 e.items(kMeshFormationInfo, formation)));
+                                 e.bitRows(kMeshFormationInfo, formation)));
     rows.push_back(entryWithName("Mesh Capability", e.text("0x{:02X}", capability), {},
-                                 e.items(kMeshCapability, capability)));
+                                 e.bitRows(kMeshCapability, capability)));
     return rows;
 }
 

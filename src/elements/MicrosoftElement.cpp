@@ -76,8 +76,8 @@ Field accessCategory(ElementDecoder& e, const ValueText& category, std::size_t o
     return entryWithName(
         e.concatenated({"Access Category - ", category.text}), {}, {},
         e.fields({
-            entryWithName("ACI / AIFSN Field", e.hex(aci, 2), {}, e.items(kACIAndAIFSN, aci)),
-            entryWithName("ECW", e.hex(ecw, 2), {}, e.items(kECW, ecw)),
+            entryWithName("ACI / AIFSN Field", e.hex(aci, 2), {}, e.bitRows(kACIAndAIFSN, aci)),
+            entryWithName("ECW", e.hex(ecw, 2), {}, e.bitRows(kECW, ecw)),
             entryWithName("TXOP Limit", e.decimal(e.u16(offset + 2))),
         }));
 }
@@ -95,7 +95,8 @@ std::span<const Field> parseWMM(ElementDecoder& e)
     rows.push_back(entryWithName("WMM Subtype", textFor(kSubtypes, subtype)));
     rows.push_back(entryWithName("WMM Version", e.decimal(e.u8(5))));
     if (subtype == kInformation || subtype == kParameter)
-        rows.push_back(entryWithName("WMM QoS Info", e.hex(info, 2), {}, e.items(kQoSInfo, info)));
+        rows.push_back(
+            entryWithName("WMM QoS Info", e.hex(info, 2), {}, e.bitRows(kQoSInfo, info)));
     if (subtype == kParameter) {
         rows.push_back(entryWithName("Reserved", e.hex(e.u8(7), 2)));
         for (const ValueText& category : kAccessCategories) {

@@ -71,7 +71,7 @@ std::span<const Field> parseRMEnabledCapability(ElementDecoder& e)
     for (std::size_t i = 0; i < std::size(kOctets); ++i) {
         const std::uint8_t octet = e.u8(i);
         rows.push_back(entryWithName(kOctets[i].name, e.hex(octet, 2), {},
-                                     e.items(kOctets[i].bitFields, octet)));
+                                     e.bitRows(kOctets[i].bitFields, octet)));
         forEachSubfield(rows.back(), [&enabled](const Field& item) {
             if (item.fieldNotes == "Enabled")
                 enabled.add(*item.fieldValue);

@@ -52,7 +52,7 @@ std::span<const Field> parseRSNIE(ElementDecoder& e)
         auth.count,
         auth.list,
         entryWithName("RSN Capabilities", e.hex(capabilities, 4), {},
-                      e.items(kRSNCapabilities, capabilities)),
+                      e.bitRows(kRSNCapabilities, capabilities)),
     });
 }
 

@@ -138,7 +138,7 @@ std::span<const Field> parseVHTCapability(ElementDecoder& e)
     e.setSummary(summary.text());
     return e.fields({
         entryWithName("VHT Capabilities Info", e.hex(info, 8), {},
-                      e.items(kVHTCapabilitiesInfo, info)),
+                      e.bitRows(kVHTCapabilitiesInfo, info)),
         entryWithName("VHT Supported MCS Set", {}, {},
                       e.fields({
                           mcsMap(e, "Rx MCS Map", kRxMap, kRxMCSMap, kRxHighestRate),
@@ -192,7 +192,7 @@ std::span<const Field> parseVHTOperation(ElementDecoder& e)
                           entryWithName("Channel Center Frequency 0", centers[0]),
                           entryWithName("Channel Center Frequency 1", centers[1]),
                       })),
-        entryWithName("VHT Basic MCS Set", e.hex(map, 4), {}, e.items(kVHTBasicMCSSet, map)),
+        entryWithName("VHT Basic MCS Set", e.hex(map, 4), {}, e.bitRows(kVHTBasicMCSSet, map)),
     });
 }
 
@@ -220,7 +220,7 @@ std::span<const Field> parseVHTTPE(ElementDecoder& e)
     const std::uint8_t information = e.u8(0);
     FieldList& rows = e.list(1 + std::size(kTransmitPowers));
     rows.push_back(entryWithName("Transmit Power Information", {}, {},
-                                 e.items(kTransmitPowerInformation, information)));
+                                 e.bitRows(kTransmitPowerInformation, information)));
     // As many powers as the whole byte says, not its three bits of the count and one more, and it
     // is meant so.
     for (std::size_t i = 0; i < information && i < std::size(kTransmitPowers); ++i) {

@@ -203,7 +203,7 @@ std::span<const Field> parseVendorWiFiAllianceIE(ElementDecoder& e)
         e.setSummary("Hotspot 2.0 Indication");
         return e.fields({
             entryWithName("Type", "Hotspot 2.0 Indication"),
-            entryWithName("Hotspot 2.0 Indication", {}, {}, e.items(kHotspotIndication, e.u8(4))),
+            entryWithName("Hotspot 2.0 Indication", {}, {}, e.bitRows(kHotspotIndication, e.u8(4))),
         });
     default:
         return {};

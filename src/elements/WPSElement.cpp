@@ -216,7 +216,7 @@ void WPSAttributes::addText(std::string_view name, std::span<const ValueText> te
 
 void WPSAttributes::addConfigurationMethods()
 {
-    const BitRows items = m_e.items(kConfigurationMethods, m_e.u16BigEndian(m_offset));
+    const BitRows items = m_e.bitRows(kConfigurationMethods, m_e.u16BigEndian(m_offset));
     JoinedText methods(m_e, ", ");
     forEachSubfield(entryWithName({}, {}, {}, items), [&methods](const Field& item) {
         if (item.fieldNotes == "Yes")
