@@ -12,14 +12,11 @@ namespace {
 
 /// The longest content that the length byte can tell (IEEE Std 802.11-2020, 9.4.2.1).
 constexpr std::size_t kLongestContent = 255;
-/// So that a number that begins in the longest content can be read whole.
-constexpr std::size_t kWidestNumber = 4;
 
 /// The bytes, and zeros for those that they lack of the longest content.
 Bytes padded(FieldArena& arena, Bytes value)
 {
-    const std::span<char> copy =
-        arena.allocateText(std::max(value.size(), kLongestContent) + kWidestNumber);
+    const std::span<char> copy = arena.allocateText(std::max(value.size(), kLongestContent));
     const auto end = std::ranges::copy(value, copy.begin()).out;
     std::fill(end, copy.end(), 0);
     return {reinterpret_cast<const std::uint8_t*>(copy.data()), copy.size()};

@@ -20,11 +20,17 @@ public:
     std::size_t length() const { return m_length; }
     std::uint8_t u8(std::size_t offset) const { return m_value.u8OrZero(offset); }
     std::int8_t i8(std::size_t offset) const { return static_cast<std::int8_t>(u8(offset)); }
-    std::uint16_t u16(std::size_t offset) const { return m_value.u16(offset).value_or(0); }
-    std::uint32_t u32(std::size_t offset) const { return m_value.u32(offset).value_or(0); }
+    std::uint16_t u16(std::size_t offset) const
+    {
+        return static_cast<std::uint16_t>(u8(offset) | u8(offset + 1) << 8);
+    }
+    std::uint32_t u32(std::size_t offset) const
+    {
+        return u16(offset) | std::uint32_t{u16(offset + 2)} << 16;
+    }
     std::uint16_t u16BigEndian(std::size_t offset) const
     {
-        return m_value.u16BigEndian(offset).value_or(0);
+        return static_cast<std::uint16_t>(u8(offset) << 8 | u8(offset + 1));
     }
     /// So many bytes, also where the element has ended.
     Bytes bytes(std::size_t offset, std::size_t count) const
