@@ -3,7 +3,7 @@
 #include "elements/FieldVisit.h"
 #include "elements/JoinedText.h"
 
-#include <QString>
+#include <QStringDecoder>
 
 #include <algorithm>
 
@@ -109,6 +109,15 @@ constexpr ValueText kSubcategories[] = {
     {124, "Headset (headphones + microphone)"},
     {125, "Headphones"},
 };
+
+/// Without white space at both ends. A mark of the byte order is a character as any other.
+std::string trimmed(std::string_view utf8)
+{
+    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless |
+                                                     QStringDecoder::Flag::ConvertInitialBom);
+    const QString text = decoder(QByteArrayView(utf8.data(), static_cast<qsizetype>(utf8.size())));
+    return text.trimmed().toStdString();
+}
 
 /// Shows the attributes of the element one by one.
 class WPSAttributes {
@@ -235,7 +244,7 @@ void WPSAttributes::addDeviceName()
         m_rows.push_back(entryWithName("Device Name"));
         return;
     }
-    const std::string_view name = m_e.keep(QString::fromUtf8(*text).trimmed().toStdString());
+    const std::string_view name = m_e.keep(trimmed(*text));
     m_rows.push_back(entryWithName("Device Name", name));
     if (!name.empty())
         m_summary.add(name);
