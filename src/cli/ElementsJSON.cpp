@@ -3,6 +3,7 @@
 #include "elements/FieldVisit.h"
 
 #include <QJsonObject>
+#include <QStringDecoder>
 
 namespace tessara {
 
@@ -10,7 +11,10 @@ namespace {
 
 QString text(std::string_view utf8)
 {
-    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+    // A mark of the byte order is a character of a name as any other.
+    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless |
+                                                     QStringDecoder::Flag::ConvertInitialBom);
+    return decoder(QByteArrayView(utf8.data(), static_cast<qsizetype>(utf8.size())));
 }
 
 void insertText(QJsonObject& object, const QString& key, FieldText value)

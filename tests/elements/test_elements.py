@@ -47,6 +47,10 @@ class Program(unittest.TestCase):
                           "fieldNotes": "Not supported"})
         self.assertEqual((mesh["ieSummary"], len(mesh["fields"])), ("", 2))
 
+    def test_a_byte_order_mark_is_part_of_a_name(self) -> None:
+        element, = decode(bytes.fromhex("0004 efbbbf48"))
+        self.assertEqual(element["ieSummary"], "\ufeffH")
+
     def test_descriptions_are_for_english_of_no_region(self) -> None:
         for languages, described in {"en": True, "en:de": True, "en_GB:en": False, "de:en": False,
                                      "": False}.items():
