@@ -1,8 +1,10 @@
 #include "cli/Command.h"
 #include "cli/ElementsJSON.h"
 #include "cli/InputOptions.h"
+#include "elements/FieldVisit.h"
 #include "foundation/Defaults.h"
 #include "foundation/HarmlessText.h"
+#include "foundation/Utf8.h"
 #include "scanning/recorded/Replay.h"
 
 #include <QJsonDocument>
@@ -32,6 +34,38 @@ void addOptions(QCommandLineParser& parser)
     });
 }
 
+/// A text of a row as a terminal may have it: on one line, and nothing it obeys.
+std::string harmlessText(std::string_view text)
+{
+    return harmless(textFromUtf8(text).value_or(QString())).toStdString();
+}
+
+/// The lines of a row and those below it, as a dump has them, but for texts that would make lines
+/// of their own.
+void composeHarmlessField(const Field& field, const std::string& indent, DumpBuffer& lines)
+{
+    const std::string value = harmlessText(*field.fieldValue);
+    Field row = field;
+    if (field.fieldValue)
+        row.fieldValue = std::string_view(value);
+    row.fieldSubfields.reset();
+    composeField(row, indent, lines);
+    forEachSubfield(field, [&](const Field& subfield) {
+        composeHarmlessField(subfield, indent + "    ", lines);
+    });
+}
+
+void printElement(QTextStream& out, const TSInfoElement& element)
+{
+    out << QString::fromStdString(element.ieName());
+    if (!element.ieSummary().empty())
+        out << " - " << QString::fromStdString(harmlessText(element.ieSummary()));
+    DumpBuffer lines;
+    for (const Field& field : element.fields())
+        composeHarmlessField(field, "    ", lines);
+    out << textFromUtf8(lines.text()).value_or(QString()) << '\n';
+}
+
 void printElements(const std::vector<TSInfoElement>& elements, bool asJSON)
 {
     QTextStream out(stdout);
@@ -43,8 +77,7 @@ void printElements(const std::vector<TSInfoElement>& elements, bool asJSON)
     for (const TSInfoElement& element : elements) {
         if (!std::exchange(isFirst, false))
             out << '\n';
-        for (const QString& line : QString::fromStdString(element.ieDump()).split(u'\n'))
-            out << harmless(line) << '\n';
+        printElement(out, element);
     }
 }
 

@@ -1,26 +1,18 @@
 #include "cli/ElementsJSON.h"
 
 #include "elements/FieldVisit.h"
+#include "foundation/Utf8.h"
 
 #include <QJsonObject>
-#include <QStringDecoder>
 
 namespace tessara {
 
 namespace {
 
-QString text(std::string_view utf8)
-{
-    // A mark of the byte order is a character of a name as any other.
-    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless |
-                                                     QStringDecoder::Flag::ConvertInitialBom);
-    return decoder(QByteArrayView(utf8.data(), static_cast<qsizetype>(utf8.size())));
-}
-
 void insertText(QJsonObject& object, const QString& key, FieldText value)
 {
     if (value)
-        object[key] = text(*value);
+        object[key] = *textFromUtf8(*value);
 }
 
 QJsonObject fieldJSON(const Field& field)
@@ -50,10 +42,10 @@ QJsonArray elementsJSON(const std::vector<TSInfoElement>& elements)
         array.append(QJsonObject{
             {QStringLiteral("ieID"), element.ieID()},
             {QStringLiteral("ieLength"), static_cast<qint64>(element.ieLength())},
-            {QStringLiteral("ieName"), text(element.ieName())},
-            {QStringLiteral("ieSummary"), text(element.ieSummary())},
-            {QStringLiteral("ieIdentifier"), text(element.ieIdentifier())},
-            {QStringLiteral("ieDescription"), text(element.ieDescription())},
+            {QStringLiteral("ieName"), *textFromUtf8(element.ieName())},
+            {QStringLiteral("ieSummary"), *textFromUtf8(element.ieSummary())},
+            {QStringLiteral("ieIdentifier"), *textFromUtf8(element.ieIdentifier())},
+            {QStringLiteral("ieDescription"), *textFromUtf8(element.ieDescription())},
             {QStringLiteral("fields"), fields},
         });
     }

@@ -1,6 +1,7 @@
 #include "elements/ElementDecoder.h"
 
 #include "elements/ElementVendor.h"
+#include "foundation/Utf8.h"
 
 #include <QUtf8StringView>
 
@@ -35,14 +36,14 @@ std::optional<std::string_view> ElementDecoder::utf8(Bytes bytes)
     const QUtf8StringView text(bytes.data(), static_cast<qsizetype>(bytes.size()));
     if (!text.isValidUtf8())
         return std::nullopt;
-    return std::string_view(reinterpret_cast<const char*>(bytes.data()), bytes.size());
+    return charactersOf(bytes);
 }
 
 std::optional<std::string_view> ElementDecoder::ascii(Bytes bytes)
 {
     if (std::ranges::any_of(bytes, [](std::uint8_t byte) { return byte > 0x7f; }))
         return std::nullopt;
-    return std::string_view(reinterpret_cast<const char*>(bytes.data()), bytes.size());
+    return charactersOf(bytes);
 }
 
 std::string_view ElementDecoder::ouiText(std::size_t offset)

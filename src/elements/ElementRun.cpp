@@ -1,6 +1,6 @@
 #include "elements/ElementRun.h"
 
-#include <QStringDecoder>
+#include "foundation/Utf8.h"
 
 #include <algorithm>
 
@@ -33,13 +33,7 @@ std::optional<QString> networkName(const ElementRun& run)
     const auto ssid = run.find(ElementID::kSSID);
     if (!ssid || std::ranges::all_of(ssid->content, [](std::uint8_t byte) { return byte == 0; }))
         return std::nullopt;
-    // A byte order mark is part of the name like any other character.
-    QStringDecoder utf8(QStringDecoder::Utf8,
-                        QStringDecoder::Flag::Stateless | QStringDecoder::Flag::ConvertInitialBom);
-    QString name = utf8(QByteArrayView(ssid->content.data(), ssid->content.size()));
-    if (utf8.hasError())
-        return std::nullopt;
-    return name;
+    return textFromUtf8(charactersOf(ssid->content));
 }
 
 } // namespace tessara

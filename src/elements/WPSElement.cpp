@@ -2,8 +2,7 @@
 
 #include "elements/FieldVisit.h"
 #include "elements/JoinedText.h"
-
-#include <QStringDecoder>
+#include "foundation/Utf8.h"
 
 #include <algorithm>
 
@@ -109,15 +108,6 @@ constexpr ValueText kSubcategories[] = {
     {124, "Headset (headphones + microphone)"},
     {125, "Headphones"},
 };
-
-/// Without white space at both ends. A mark of the byte order is a character as any other.
-std::string trimmed(std::string_view utf8)
-{
-    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless |
-                                                     QStringDecoder::Flag::ConvertInitialBom);
-    const QString text = decoder(QByteArrayView(utf8.data(), static_cast<qsizetype>(utf8.size())));
-    return text.trimmed().toStdString();
-}
 
 /// Shows the attributes of the element one by one.
 class WPSAttributes {
@@ -239,12 +229,12 @@ void WPSAttributes::addConfigurationMethods()
 void WPSAttributes::addDeviceName()
 {
     constexpr std::size_t kLongest = 32;
-    const auto text = ElementDecoder::utf8(m_e.bytes(m_offset, std::min(m_length, kLongest)));
+    const auto text = textFromUtf8(charactersOf(m_e.bytes(m_offset, std::min(m_length, kLongest))));
     if (!text) {
         m_rows.push_back(entryWithName("Device Name"));
         return;
     }
-    const std::string_view name = m_e.keep(trimmed(*text));
+    const std::string_view name = m_e.keep(text->trimmed().toStdString());
     m_rows.push_back(entryWithName("Device Name", name));
     if (!name.empty())
         m_summary.add(name);

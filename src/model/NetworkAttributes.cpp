@@ -1,14 +1,13 @@
 #include "model/NetworkAttributes.h"
 
 #include "elements/ElementID.h"
+#include "foundation/Utf8.h"
 #include "model/Amendments.h"
 #include "model/Band.h"
 #include "model/PhyMode.h"
 #include "model/PlacedElement.h"
 #include "model/RateSet.h"
 #include "model/SecurityElements.h"
-
-#include <QStringDecoder>
 
 #include <algorithm>
 #include <array>
@@ -54,11 +53,7 @@ QString ssidText(Bytes content)
     Bytes name = content.first(std::min(content.size(), kLongestSSID));
     const auto end = std::ranges::find(name, std::uint8_t{0});
     name = name.first(static_cast<std::size_t>(end - name.begin()));
-    // A mark of the byte order is a character of the name as any other.
-    QStringDecoder utf8(QStringDecoder::Utf8,
-                        QStringDecoder::Flag::Stateless | QStringDecoder::Flag::ConvertInitialBom);
-    QString text = utf8(QByteArrayView(name.data(), static_cast<qsizetype>(name.size())));
-    return utf8.hasError() ? QString() : text;
+    return textFromUtf8(charactersOf(name)).value_or(QString());
 }
 
 QString countryText(Bytes code)
