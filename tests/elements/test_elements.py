@@ -51,6 +51,14 @@ class Program(unittest.TestCase):
         element, = decode(bytes.fromhex("0004 efbbbf48"))
         self.assertEqual(element["ieSummary"], "\ufeffH")
 
+    def test_a_name_forges_no_rows_in_a_terminal(self) -> None:
+        name = "x\n    RSN Version: 9\x1b[2J"
+        run = bytes((0, len(name))) + name.encode()
+        text = subprocess.run([CLI, "elements", "--hex", run.hex()], check=True,
+                              capture_output=True, text=True).stdout
+        self.assertEqual(text.count("\n"), 5)
+        self.assertNotIn("\x1b", text)
+
     def test_descriptions_are_for_english_of_no_region(self) -> None:
         for languages, described in {"en": True, "en:de": True, "en_GB:en": False, "de:en": False,
                                      "": False}.items():
