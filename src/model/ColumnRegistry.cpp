@@ -305,7 +305,7 @@ std::vector<Column> makeRegistry()
         showing(textColumn<&Row::maxRateValue>("MAX_RATE", "Max Rate",
                                                "The highest rate that follows from what the access "
                                                "point announces.",
-                                               kShown, 95, kStandard, kRight),
+                                               kShown, 110, kStandard, kRight),
                 megabitsOf<&Row::maxRateValue>),
         textColumn<&Row::securityValue>("SECURITY_MODE", "Security",
                                         "How the network is protected; empty if it is open.",
