@@ -37,6 +37,7 @@ ExitStatus run(const QCommandLineParser& parser, const QStringList& arguments)
         return kFailed;
     }
     DisplayPipeline pipeline;
+    pipeline.setShownKinds(ShownKinds::fromDefaults(Defaults::standard()));
     pipeline.setSortDescriptors(options->sort);
     pipeline.filterAndSetNetworks(result.networks);
     // What could be read is shown even where the input ends in an error.

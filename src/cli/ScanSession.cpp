@@ -2,6 +2,7 @@
 
 #include "cli/TableText.h"
 #include "cli/Terminal.h"
+#include "foundation/Defaults.h"
 #include "foundation/HarmlessText.h"
 #include "scanning/StateInfo.h"
 
@@ -30,6 +31,7 @@ ScanSession::ScanSession(ScanRuntime& runtime, std::shared_ptr<CWInterface> inte
     , m_clock(runtime.clock())
     , m_cycle(m_interface, runtime.engineServices(), *this, m_prompt)
 {
+    m_pipeline.setShownKinds(ShownKinds::fromDefaults(Defaults::standard()));
     m_pipeline.setSortDescriptors(m_options.list.sort);
     if (m_options.saveTo) {
         m_writer = std::make_unique<RecordingWriter>(*m_options.saveTo);

@@ -1,11 +1,19 @@
 #include "filtering/DisplayPipeline.h"
 
+#include "foundation/Defaults.h"
 #include "foundation/Localized.h"
 
 #include <algorithm>
+#include <iterator>
 #include <numeric>
 
 namespace tessara {
+
+ShownKinds ShownKinds::fromDefaults(const Defaults& defaults)
+{
+    return {defaults.boolForKey(DefaultKey::ShowSecure),
+            defaults.boolForKey(DefaultKey::ShowAdHoc)};
+}
 
 void DisplayPipeline::setSortDescriptors(std::vector<SortDescriptor> descriptors)
 {
@@ -17,16 +25,36 @@ void DisplayPipeline::setAssociation(std::optional<Association> association)
     m_association = std::move(association);
 }
 
+bool DisplayPipeline::isKept(const TSNetwork& network) const
+{
+    return (m_shownKinds.secure || network.isOpen()) &&
+           (m_shownKinds.adHoc || !network.isAdHoc()) &&
+           passesQuickFilter(network, m_quickFilter) && m_threshold.passes(network.rssi());
+}
+
+bool DisplayPipeline::isAssociated(const TSNetwork& network) const
+{
+    return m_association && m_association->band == network.channelBand() &&
+           m_association->ssid == network.ssid() &&
+           m_association->bssid.compare(network.bssid(), Qt::CaseInsensitive) == 0;
+}
+
 void DisplayPipeline::filterAndSetNetworks(const NetworkList& networks)
 {
     m_networks = networks;
-    for (const NetworkPtr& network : m_networks) {
-        network->setAssociated(
-            m_association && m_association->band == network->channelBand() &&
-            m_association->ssid == network->ssid() &&
-            m_association->bssid.compare(network->bssid(), Qt::CaseInsensitive) == 0);
-    }
-    m_filteredNetworks = sortedNetworks(m_networks, m_sortDescriptors);
+
+    NetworkList kept;
+    std::ranges::copy_if(networks, std::back_inserter(kept),
+                         [this](const NetworkPtr& network) { return isKept(*network); });
+    m_sideViewNetworks = std::move(kept);
+
+    NetworkList shown;
+    std::ranges::copy_if(
+        m_sideViewNetworks, std::back_inserter(shown),
+        [this](const NetworkPtr& network) { return m_sideViewSelection.contains(*network); });
+    for (const NetworkPtr& network : shown)
+        network->setAssociated(isAssociated(*network)); // of those that are not shown it stays
+    m_filteredNetworks = sortedNetworks(shown, m_sortDescriptors);
 }
 
 QString DisplayPipeline::footerText() const

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "filtering/QuickFilter.h"
+#include "filtering/SideViewSelection.h"
+#include "filtering/SignalThreshold.h"
 #include "model/Band.h"
 #include "model/ColumnRegistry.h"
 #include "model/TSNetwork.h"
@@ -10,6 +13,8 @@
 #include <vector>
 
 namespace tessara {
+
+class Defaults;
 
 /// One level of the order of the list.
 struct SortDescriptor {
@@ -24,9 +29,26 @@ struct Association {
     QString ssid;
 };
 
-/// From everything that is known to the rows on screen: marks the associated network and sorts.
+/// The kinds of networks that the settings leave out of all lists.
+struct ShownKinds {
+    bool secure = true;
+    bool adHoc = true;
+
+    static ShownKinds fromDefaults(const Defaults& defaults);
+};
+
+/// From everything that is known to the rows on screen: narrows the list by a chain of tests, marks
+/// the associated network and sorts. What is set takes effect at the next pass.
 class DisplayPipeline {
 public:
+    void setShownKinds(ShownKinds kinds) { m_shownKinds = kinds; }
+    void setQuickFilter(QuickFilter filter) { m_quickFilter = filter; }
+    void setSignalThreshold(SignalThreshold threshold) { m_threshold = threshold; }
+    const SignalThreshold& signalThreshold() const { return m_threshold; }
+    void setSideViewSelection(SideViewSelection selection)
+    {
+        m_sideViewSelection = std::move(selection);
+    }
     /// The order of the rows: the first descriptor rules, the others break its ties.
     void setSortDescriptors(std::vector<SortDescriptor> descriptors);
     /// What the interface is associated with while scanning; none otherwise.
@@ -37,11 +59,22 @@ public:
 
     const NetworkList& networks() const { return m_networks; }
     const NetworkList& filteredNetworks() const { return m_filteredNetworks; }
+    /// What the side view counts: the list before its own selection narrows it.
+    const NetworkList& sideViewNetworks() const { return m_sideViewNetworks; }
     /// "Networks Found: 31, Displayed: 31 (100%)"
     QString footerText() const;
 
 private:
+    bool isKept(const TSNetwork& network) const;
+    bool isAssociated(const TSNetwork& network) const;
+
+    ShownKinds m_shownKinds;
+    QuickFilter m_quickFilter = QuickFilter::kAllNetworks;
+    SignalThreshold m_threshold;
+    SideViewSelection m_sideViewSelection;
+
     NetworkList m_networks;
+    NetworkList m_sideViewNetworks;
     NetworkList m_filteredNetworks;
     std::vector<SortDescriptor> m_sortDescriptors;
     std::optional<Association> m_association;

@@ -45,6 +45,8 @@ void AppDelegate::connectParts(NotificationCenter& notifications)
 {
     connect(&m_window, &MainWindow::scanRequested, &m_scanCycle, &ScanCycle::doStart);
     connect(&m_window, &MainWindow::stopRequested, &m_scanCycle, &ScanCycle::doStop);
+    connect(&m_window, &MainWindow::quickFilterSelected, this, &AppDelegate::selectQuickFilter);
+    connect(&m_window, &MainWindow::filterUsingKeys, this, &AppDelegate::handleFilterUsingKeys);
     connect(&m_window.intervalMenu(), &IntervalMenu::intervalsTriggered, this,
             &AppDelegate::onIntervals);
 
@@ -95,6 +97,8 @@ void AppDelegate::loadDefaults()
 {
     Defaults& defaults = Defaults::standard();
     m_scanCycle.loadDefaults();
+    selectQuickFilter(
+        static_cast<QuickFilter>(defaults.integerForKey(DefaultKey::QuickFilterSelectedItem)));
     for (const auto& [key, smallest, largest] : kFontSizes) {
         const double size = defaults.doubleForKey(key);
         if (size < smallest || size > largest)
@@ -206,13 +210,40 @@ void AppDelegate::saveDefaults()
     Defaults::standard().setValue(DefaultKey::NetworksTable, m_window.networksView().layoutState());
 }
 
+// Filters ---------------------------------------------------------------------------------------
+
+void AppDelegate::selectQuickFilter(QuickFilter filter)
+{
+    for (const NetworkPtr& network : m_pipeline.filteredNetworks())
+        network->setUserHighlighted(false);
+    Defaults::standard().setValue(DefaultKey::QuickFilterSelectedItem, static_cast<qint64>(filter));
+    if (isQuickFilter(filter)) { // else the filter stays
+        m_pipeline.setQuickFilter(filter);
+        m_window.setQuickFilter(filter);
+    }
+    filterAndSetNetworks(m_pipeline.networks());
+}
+
+void AppDelegate::handleFilterUsingKeys(std::int64_t threshold)
+{
+    m_signalStrengthThreshold = threshold;
+    Defaults::standard().setValue(DefaultKey::SignalStrengthThreshold,
+                                  static_cast<qint64>(threshold));
+    filterAndSetNetworks(m_pipeline.networks());
+}
+
 // From the scan cycle to the views --------------------------------------------------------------
 
 void AppDelegate::filterAndSetNetworks(const NetworkList& networks)
 {
     m_pipeline.setSortDescriptors(m_window.networksView().sortDescriptors());
     m_pipeline.setAssociation(association());
+    const Defaults& defaults = Defaults::standard();
+    m_pipeline.setShownKinds(ShownKinds::fromDefaults(defaults));
+    m_pipeline.setSignalThreshold(
+        {m_signalStrengthThreshold, defaults.integerForKey(DefaultKey::Units) == 1});
     m_pipeline.filterAndSetNetworks(networks);
+    m_window.setThresholdFooter(m_pipeline.signalThreshold().text());
     prepareAndReload();
 }
 

@@ -52,6 +52,8 @@ private:
 
     void connectParts(NotificationCenter& notifications);
     void loadDefaults();
+    void selectQuickFilter(QuickFilter filter);
+    void handleFilterUsingKeys(std::int64_t threshold);
     void saveDefaults();
     void restoreWindowFrame();
     void showWindow();
@@ -73,6 +75,7 @@ private:
     VendorDatabaseUpdate m_vendorsUpdate;
     std::unique_ptr<RepeatingTimer> m_vendorsCheck; ///< until its first call
     bool m_windowDidShowFirstTime = false;
+    std::int64_t m_signalStrengthThreshold = 0;
     bool m_didTerminate = false;
 };
 

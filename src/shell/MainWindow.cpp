@@ -1,5 +1,7 @@
 #include "shell/MainWindow.h"
 
+#include "filtering/ThresholdKeys.h"
+#include "foundation/Defaults.h"
 #include "foundation/Localized.h"
 #include "shell/ActivityIndicator.h"
 #include "shell/ElidedLabel.h"
@@ -8,6 +10,9 @@
 #include "shell/TSNetworksView.h"
 
 #include <QAction>
+#include <QActionGroup>
+#include <QComboBox>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLayout>
 #include <QMenuBar>
@@ -34,6 +39,22 @@ QWidget* makeSpace(int width)
     return space;
 }
 
+/// The threshold that a key press sets; none for any other.
+std::optional<std::int64_t> thresholdOf(const QKeyEvent& event)
+{
+    // Escape takes a threshold away where there is one.
+    if (event.key() == Qt::Key_Escape) {
+        const qint64 stored =
+            Defaults::standard().integerForKey(DefaultKey::SignalStrengthThreshold);
+        return stored >= 1 ? std::optional<std::int64_t>(0) : std::nullopt;
+    }
+    constexpr auto kModifiers =
+        Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
+    if ((event.modifiers() & kModifiers) != Qt::AltModifier || event.key() > 0xffff)
+        return std::nullopt;
+    return thresholdOfKey(QChar(event.key()));
+}
+
 } // namespace
 
 MainWindow::MainWindow()
@@ -42,12 +63,15 @@ MainWindow::MainWindow()
     setCentralWidget(m_networksView);
     setContextMenuPolicy(Qt::NoContextMenu); // it would offer to hide the toolbar
     makeActions();
+    makeQuickFilter();
     makeToolBar();
     makeMenus();
     makeFooter();
     setMinimumSize(kSmallestSize);
     resize(kFreshSize);
     m_networksView->setFocus();
+    m_networksView->installEventFilter(this);
+    installEventFilter(this);
 }
 
 void MainWindow::makeActions()
@@ -80,7 +104,33 @@ void MainWindow::makeToolBar()
     bar.addWidget(makeSpace(side / 2));
     bar.addWidget(m_activityIndicator);
     bar.addWidget(makeSpace(side / 2));
-    bar.addWidget(m_info);
+    bar.addWidget(m_info); // takes the room there is
+    bar.addWidget(makeSpace(side / 2));
+    bar.addWidget(m_quickFilter);
+}
+
+void MainWindow::makeQuickFilter()
+{
+    m_quickFilter = new QComboBox;
+    m_quickFilter->setAccessibleName(localized("Quick Filter"));
+    m_quickFilter->setToolTip(localized("Show only networks of one kind"));
+    m_quickFilterItems = new QActionGroup(this);
+    for (const QuickFilterItem& item : composeQuickFilterMenu()) {
+        m_quickFilter->addItem(localized(item.title));
+        QAction* action = m_quickFilterItems->addAction(localized(item.title));
+        action->setCheckable(true);
+        connect(action, &QAction::triggered, this,
+                [this, tag = item.tag] { Q_EMIT quickFilterSelected(tag); });
+    }
+    connect(m_quickFilter, &QComboBox::activated, this,
+            [this](int index) { Q_EMIT quickFilterSelected(static_cast<QuickFilter>(index)); });
+}
+
+void MainWindow::setQuickFilter(QuickFilter filter)
+{
+    const auto index = static_cast<int>(filter);
+    m_quickFilter->setCurrentIndex(index);
+    m_quickFilterItems->actions().at(index)->setChecked(true);
 }
 
 void MainWindow::makeMenus()
@@ -99,6 +149,8 @@ void MainWindow::makeMenus()
     scan.addMenu(m_intervalMenu);
 
     QMenu& view = *menuBar()->addMenu(localized("&View"));
+    view.addActions(m_quickFilterItems->actions());
+    view.addSeparator();
     QMenu* columns = view.addMenu(localized("&Columns"));
     columns->setToolTipsVisible(true);
     connect(columns, &QMenu::aboutToShow, this, [this, columns] {
@@ -146,6 +198,32 @@ void MainWindow::setLeftFooterVisible(bool visible)
 void MainWindow::setRightFooter(const QString& text)
 {
     m_rightFooter->setText(text);
+    m_rightFooter->setPalette({});
+    m_rightFooterShowsThreshold = false;
+}
+
+void MainWindow::setThresholdFooter(const std::optional<QString>& text)
+{
+    if (!text && !m_rightFooterShowsThreshold)
+        return;
+    setRightFooter(text.value_or(QString()));
+    if (!text)
+        return;
+    m_rightFooterShowsThreshold = true;
+    QPalette palette = m_rightFooter->palette();
+    palette.setColor(QPalette::WindowText, QColor::fromRgbF(0.728F, 0.078F, 0.12F));
+    m_rightFooter->setPalette(palette);
+}
+
+bool MainWindow::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::KeyPress) {
+        if (const auto threshold = thresholdOf(static_cast<const QKeyEvent&>(*event))) {
+            Q_EMIT filterUsingKeys(*threshold);
+            return true;
+        }
+    }
+    return QMainWindow::eventFilter(watched, event);
 }
 
 void MainWindow::takeFirstRunFrame()

@@ -1,9 +1,14 @@
 #pragma once
 
+#include "filtering/QuickFilter.h"
 #include "scanning/StateInfo.h"
 
 #include <QMainWindow>
 
+#include <optional>
+
+class QActionGroup;
+class QComboBox;
 class QLabel;
 
 namespace tessara {
@@ -30,7 +35,12 @@ public:
     void setStateInfo(const StateInfo& info);
     void setLeftFooter(const QString& text);
     void setLeftFooterVisible(bool visible);
+    /// A message at the right of the footer.
     void setRightFooter(const QString& text);
+    /// The threshold's message in the same place; none takes it away, and leaves others alone.
+    void setThresholdFooter(const std::optional<QString>& text);
+    /// Shows which quick filter is chosen.
+    void setQuickFilter(QuickFilter filter);
 
     /// Takes a part of the size of a fresh window, in the middle of the screen.
     void takeFirstRunFrame();
@@ -38,11 +48,18 @@ public:
 Q_SIGNALS:
     void scanRequested();
     void stopRequested();
+    void quickFilterSelected(QuickFilter filter);
+    /// @param value as `SignalThreshold` has it; 0 turns it off
+    void filterUsingKeys(std::int64_t value);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void makeActions();
     void makeToolBar();
     void makeMenus();
+    void makeQuickFilter();
     void makeFooter();
     void showAbout();
 
@@ -54,6 +71,9 @@ private:
     ElidedLabel* m_info = nullptr;
     ElidedLabel* m_leftFooter = nullptr;
     QLabel* m_rightFooter = nullptr;
+    bool m_rightFooterShowsThreshold = false;
+    QComboBox* m_quickFilter = nullptr;
+    QActionGroup* m_quickFilterItems = nullptr; ///< of the View menu
 };
 
 } // namespace tessara

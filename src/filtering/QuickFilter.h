@@ -1,0 +1,30 @@
+#pragma once
+
+#include "model/TSNetwork.h"
+
+#include <span>
+
+namespace tessara {
+
+/// The kinds of networks that one click leaves in the list. The numbers are those of the menu's
+/// items and of the setting `QuickFilterSelectedItem`.
+enum class QuickFilter : qint64 {
+    kAllNetworks = 0,
+    kOpenNetworks = 1,
+    kSecureNetworks = 2,
+    kAdHocNetworks = 3,
+};
+
+struct QuickFilterItem {
+    QuickFilter tag;
+    const char* title; ///< English; shown through `localized`
+};
+
+/// The items of the menu, in order.
+std::span<const QuickFilterItem> composeQuickFilterMenu();
+
+/// Whether the menu has such an item.
+bool isQuickFilter(QuickFilter filter);
+bool passesQuickFilter(const TSNetwork& network, QuickFilter filter);
+
+} // namespace tessara
