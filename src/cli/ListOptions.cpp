@@ -30,6 +30,9 @@ QString noSuchColumn(QStringView identifier)
 void addListOptions(QCommandLineParser& parser)
 {
     parser.addOptions({
+        {QStringLiteral("filter"),
+         QStringLiteral("Show what a line of the filter language selects, as in 'wpa2 & 5GHz'."),
+         QStringLiteral("LINE")},
         {QStringLiteral("sort"), QStringLiteral("Sort by a column, descending with ':desc'."),
          QStringLiteral("COLUMN[:desc]")},
         {QStringLiteral("columns"), QStringLiteral("Show these columns, by their identifiers."),
@@ -51,6 +54,7 @@ std::optional<ListOptions> listOptions(const QCommandLineParser& parser, QString
         return std::nullopt;
     }
 
+    options.filter = parser.value(QStringLiteral("filter"));
     if (const QString sort = parser.value(QStringLiteral("sort")); !sort.isEmpty()) {
         const QStringList parts = sort.split(u':');
         const Column* column = columnWithIdentifier(parts[0]);
@@ -88,7 +92,7 @@ ExitStatus printList(const DisplayPipeline& pipeline, const ListOptions& options
     {
         QTextStream out(stdout);
         if (options.format == ListOptions::Format::kJSON) {
-            writeNetworksJSON(out, pipeline.filteredNetworks(), context, lastScanTime);
+            writeNetworksJSON(out, pipeline, context, lastScanTime);
         } else {
             const int width = isStandardOutputTerminal() ? terminalSize().columns : 0;
             for (const QString& line :

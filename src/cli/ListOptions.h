@@ -15,11 +15,12 @@ struct ListOptions {
     enum class Format { kTable, kJSON };
 
     std::vector<SortDescriptor> sort;
+    QString filter; ///< a line of the filter language; empty selects all
     std::vector<const Column*> columns;
     Format format = Format::kTable;
 };
 
-/// --sort COLUMN[:desc], --columns ID,…, --format table|json
+/// --filter LINE, --sort COLUMN[:desc], --columns ID,…, --format table|json
 void addListOptions(QCommandLineParser& parser);
 
 /// @param error what is wrong, if something is

@@ -39,6 +39,7 @@ ExitStatus run(const QCommandLineParser& parser, const QStringList& arguments)
     DisplayPipeline pipeline;
     pipeline.setShownKinds(ShownKinds::fromDefaults(Defaults::standard()));
     pipeline.setSortDescriptors(options->sort);
+    pipeline.onFilter(options->filter);
     pipeline.filterAndSetNetworks(result.networks);
     // What could be read is shown even where the input ends in an error.
     const ExitStatus printed =

@@ -97,15 +97,18 @@ QJsonObject recordJSON(const TSNetwork& network)
 
 } // namespace
 
-void writeNetworksJSON(QTextStream& out, const NetworkList& networks, const CellContext& context,
-                       double lastScanTime)
+void writeNetworksJSON(QTextStream& out, const DisplayPipeline& pipeline,
+                       const CellContext& context, double lastScanTime)
 {
+    const auto identifiers =
+        QJsonArray::fromStringList(pipeline.filteredColumnIdentifiers().columnIdentifiers());
     // The number in JSON's own form.
     const QByteArray time = QJsonDocument(QJsonArray{lastScanTime}).toJson(QJsonDocument::Compact);
     out << "{\"lastScanTime\": " << time.mid(1, time.size() - 2)
-        << ", \"filterIdentifiers\": [], \"networks\": [";
+        << ", \"filterIdentifiers\": " << QJsonDocument(identifiers).toJson(QJsonDocument::Compact)
+        << ", \"networks\": [";
     const char* separator = "\n";
-    for (const NetworkPtr& network : networks) {
+    for (const NetworkPtr& network : pipeline.filteredNetworks()) {
         QJsonObject columns;
         for (const Column& column : columnRegistry()) {
             if (column.cell != CellKind::kMarker)

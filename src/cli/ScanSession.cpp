@@ -33,6 +33,7 @@ ScanSession::ScanSession(ScanRuntime& runtime, std::shared_ptr<CWInterface> inte
 {
     m_pipeline.setShownKinds(ShownKinds::fromDefaults(Defaults::standard()));
     m_pipeline.setSortDescriptors(m_options.list.sort);
+    m_pipeline.onFilter(m_options.list.filter);
     if (m_options.saveTo) {
         m_writer = std::make_unique<RecordingWriter>(*m_options.saveTo);
         connect(&runtime.notifications(), &NotificationCenter::scanDidEnd, this,

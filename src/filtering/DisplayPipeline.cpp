@@ -1,5 +1,6 @@
 #include "filtering/DisplayPipeline.h"
 
+#include "filtering/FilterLine.h"
 #include "foundation/Defaults.h"
 #include "foundation/Localized.h"
 
@@ -25,6 +26,27 @@ void DisplayPipeline::setAssociation(std::optional<Association> association)
     m_association = std::move(association);
 }
 
+void DisplayPipeline::clearUserHighlighted()
+{
+    for (const NetworkPtr& network : m_filteredNetworks)
+        network->setUserHighlighted(false);
+}
+
+void DisplayPipeline::selectQuickFilter(QuickFilter filter)
+{
+    clearUserHighlighted();
+    if (isQuickFilter(filter)) // else it stays
+        m_quickFilter = filter;
+    filterAndSetNetworks(m_networks);
+}
+
+void DisplayPipeline::onFilter(const QString& line)
+{
+    clearUserHighlighted();
+    m_filterString = line;
+    filterAndSetNetworks(m_networks);
+}
+
 bool DisplayPipeline::isKept(const TSNetwork& network) const
 {
     return (m_shownKinds.secure || network.isOpen()) &&
@@ -42,10 +64,13 @@ bool DisplayPipeline::isAssociated(const TSNetwork& network) const
 void DisplayPipeline::filterAndSetNetworks(const NetworkList& networks)
 {
     m_networks = networks;
+    m_filteredColumnIdentifiers = {};
 
     NetworkList kept;
     std::ranges::copy_if(networks, std::back_inserter(kept),
                          [this](const NetworkPtr& network) { return isKept(*network); });
+    if (!m_filterString.isEmpty())
+        kept = filterNetworks(kept, m_filterString, m_filteredColumnIdentifiers);
     m_sideViewNetworks = std::move(kept);
 
     NetworkList shown;

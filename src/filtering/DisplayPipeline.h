@@ -1,5 +1,6 @@
 #pragma once
 
+#include "filtering/FilterIdentifiers.h"
 #include "filtering/QuickFilter.h"
 #include "filtering/SideViewSelection.h"
 #include "filtering/SignalThreshold.h"
@@ -37,12 +38,12 @@ struct ShownKinds {
     static ShownKinds fromDefaults(const Defaults& defaults);
 };
 
-/// From everything that is known to the rows on screen: narrows the list by a chain of tests, marks
-/// the associated network and sorts. What is set takes effect at the next pass.
+/// From everything that is known to the rows on screen: narrows the list by a chain of tests, the
+/// filter line among them, marks the associated network and sorts. What is set takes effect at the
+/// next pass.
 class DisplayPipeline {
 public:
     void setShownKinds(ShownKinds kinds) { m_shownKinds = kinds; }
-    void setQuickFilter(QuickFilter filter) { m_quickFilter = filter; }
     void setSignalThreshold(SignalThreshold threshold) { m_threshold = threshold; }
     const SignalThreshold& signalThreshold() const { return m_threshold; }
     void setSideViewSelection(SideViewSelection selection)
@@ -54,6 +55,11 @@ public:
     /// What the interface is associated with while scanning; none otherwise.
     void setAssociation(std::optional<Association> association);
 
+    // What the user does clears the selection and works out again what is shown.
+    void selectQuickFilter(QuickFilter filter);
+    void onFilter(const QString& line);
+    const QString& filterString() const { return m_filterString; }
+
     /// Takes the list of all networks and works out what is shown.
     void filterAndSetNetworks(const NetworkList& networks);
 
@@ -61,10 +67,16 @@ public:
     const NetworkList& filteredNetworks() const { return m_filteredNetworks; }
     /// What the side view counts: the list before its own selection narrows it.
     const NetworkList& sideViewNetworks() const { return m_sideViewNetworks; }
+    /// The columns on which the filter line found networks; empty without one.
+    const FilterIdentifiers& filteredColumnIdentifiers() const
+    {
+        return m_filteredColumnIdentifiers;
+    }
     /// "Networks Found: 31, Displayed: 31 (100%)"
     QString footerText() const;
 
 private:
+    void clearUserHighlighted();
     bool isKept(const TSNetwork& network) const;
     bool isAssociated(const TSNetwork& network) const;
 
@@ -76,6 +88,8 @@ private:
     NetworkList m_networks;
     NetworkList m_sideViewNetworks;
     NetworkList m_filteredNetworks;
+    FilterIdentifiers m_filteredColumnIdentifiers;
+    QString m_filterString;
     std::vector<SortDescriptor> m_sortDescriptors;
     std::optional<Association> m_association;
 };

@@ -7,12 +7,7 @@ namespace tessara {
 
 namespace {
 
-struct WidthInfo {
-    ChannelWidth width;
-    int megahertz;
-};
-
-constexpr WidthInfo kWidths[] = {
+constexpr ChannelWidthInfo kWidths[] = {
     {ChannelWidth::k20MHz, 20},
     {ChannelWidth::k40MHz, 40},
     {ChannelWidth::k80MHz, 80},
@@ -21,9 +16,14 @@ constexpr WidthInfo kWidths[] = {
 
 } // namespace
 
+std::span<const ChannelWidthInfo> channelWidths()
+{
+    return kWidths;
+}
+
 std::optional<int> megahertz(ChannelWidth width)
 {
-    const auto* info = std::ranges::find(kWidths, width, &WidthInfo::width);
+    const auto* info = std::ranges::find(kWidths, width, &ChannelWidthInfo::width);
     return info == std::end(kWidths) ? std::nullopt : std::optional(info->megahertz);
 }
 

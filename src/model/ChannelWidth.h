@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <span>
 
 namespace tessara {
 
@@ -14,6 +15,15 @@ enum class ChannelWidth : std::uint8_t {
     k160MHz = 4,
     k80Plus80MHz = 5,
 };
+
+/// What there is to know of a width.
+struct ChannelWidthInfo {
+    ChannelWidth width;
+    int megahertz;
+};
+
+/// All widths of one number of MHz, the narrowest first.
+std::span<const ChannelWidthInfo> channelWidths();
 
 /// The width in MHz; none for an unknown width and for 80+80 MHz, which is no single number.
 std::optional<int> megahertz(ChannelWidth width);

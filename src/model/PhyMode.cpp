@@ -4,17 +4,23 @@
 
 namespace tessara {
 
+namespace {
+
+constexpr PhyModeInfo kModes[] = {
+    {kPhyModeA, "a"}, {kPhyModeB, "b"}, {kPhyModeG, "g"}, {kPhyModeN, "n"}, {kPhyModeAC, "ac"},
+};
+
+} // namespace
+
+std::span<const PhyModeInfo> phyModes()
+{
+    return kModes;
+}
+
 QString phyModeText(std::int64_t modes)
 {
-    struct ModeInfo {
-        PhyMode mode;
-        const char* letters;
-    };
-    constexpr ModeInfo kModes[] = {
-        {kPhyModeA, "a"}, {kPhyModeB, "b"}, {kPhyModeG, "g"}, {kPhyModeN, "n"}, {kPhyModeAC, "ac"},
-    };
     QStringList letters;
-    for (const ModeInfo& info : kModes) {
+    for (const PhyModeInfo& info : kModes) {
         if (modes & info.mode)
             letters += QLatin1String(info.letters);
     }

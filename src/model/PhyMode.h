@@ -3,6 +3,7 @@
 #include <QString>
 
 #include <cstdint>
+#include <span>
 
 namespace tessara {
 
@@ -14,6 +15,15 @@ enum PhyMode : std::int64_t {
     kPhyModeN = 8,
     kPhyModeAC = 16,
 };
+
+/// What there is to know of a PHY mode.
+struct PhyModeInfo {
+    PhyMode mode;
+    const char* letters; ///< of its amendment to IEEE Std 802.11, in lower case
+};
+
+/// All modes in the order in which they are told.
+std::span<const PhyModeInfo> phyModes();
 
 /// "b/g/n"; empty for none.
 QString phyModeText(std::int64_t modes);

@@ -46,6 +46,7 @@ void AppDelegate::connectParts(NotificationCenter& notifications)
     connect(&m_window, &MainWindow::scanRequested, &m_scanCycle, &ScanCycle::doStart);
     connect(&m_window, &MainWindow::stopRequested, &m_scanCycle, &ScanCycle::doStop);
     connect(&m_window, &MainWindow::quickFilterSelected, this, &AppDelegate::selectQuickFilter);
+    connect(&m_window, &MainWindow::filterChanged, this, &AppDelegate::onFilter);
     connect(&m_window, &MainWindow::filterUsingKeys, this, &AppDelegate::handleFilterUsingKeys);
     connect(&m_window.intervalMenu(), &IntervalMenu::intervalsTriggered, this,
             &AppDelegate::onIntervals);
@@ -214,14 +215,20 @@ void AppDelegate::saveDefaults()
 
 void AppDelegate::selectQuickFilter(QuickFilter filter)
 {
-    for (const NetworkPtr& network : m_pipeline.filteredNetworks())
-        network->setUserHighlighted(false);
-    Defaults::standard().setValue(DefaultKey::QuickFilterSelectedItem, static_cast<qint64>(filter));
-    if (isQuickFilter(filter)) { // else the filter stays
-        m_pipeline.setQuickFilter(filter);
+    Defaults::standard().setValue(DefaultKey::QuickFilterSelectedItem,
+                                  static_cast<qint64>(filter));
+    if (isQuickFilter(filter))
         m_window.setQuickFilter(filter);
-    }
-    filterAndSetNetworks(m_pipeline.networks());
+    setUpPipeline();
+    m_pipeline.selectQuickFilter(filter);
+    showFilteredNetworks();
+}
+
+void AppDelegate::onFilter(const QString& line)
+{
+    setUpPipeline();
+    m_pipeline.onFilter(line);
+    showFilteredNetworks();
 }
 
 void AppDelegate::handleFilterUsingKeys(std::int64_t threshold)
@@ -236,13 +243,23 @@ void AppDelegate::handleFilterUsingKeys(std::int64_t threshold)
 
 void AppDelegate::filterAndSetNetworks(const NetworkList& networks)
 {
-    m_pipeline.setSortDescriptors(m_window.networksView().sortDescriptors());
-    m_pipeline.setAssociation(association());
+    setUpPipeline();
+    m_pipeline.filterAndSetNetworks(networks);
+    showFilteredNetworks();
+}
+
+void AppDelegate::setUpPipeline()
+{
     const Defaults& defaults = Defaults::standard();
     m_pipeline.setShownKinds(ShownKinds::fromDefaults(defaults));
     m_pipeline.setSignalThreshold(
         {m_signalStrengthThreshold, defaults.integerForKey(DefaultKey::Units) == 1});
-    m_pipeline.filterAndSetNetworks(networks);
+    m_pipeline.setSortDescriptors(m_window.networksView().sortDescriptors());
+    m_pipeline.setAssociation(association());
+}
+
+void AppDelegate::showFilteredNetworks()
+{
     m_window.setThresholdFooter(m_pipeline.signalThreshold().text());
     prepareAndReload();
 }

@@ -53,7 +53,10 @@ private:
     void connectParts(NotificationCenter& notifications);
     void loadDefaults();
     void selectQuickFilter(QuickFilter filter);
+    void onFilter(const QString& line);
     void handleFilterUsingKeys(std::int64_t threshold);
+    void setUpPipeline();
+    void showFilteredNetworks();
     void saveDefaults();
     void restoreWindowFrame();
     void showWindow();

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QStringView>
+
+#include <cstdint>
+
+namespace tessara {
+
+/// A text without blanks (Unicode's space separators) and tabs at its ends.
+QStringView trimmedOfBlanks(QStringView text);
+
+/// A text without any of some characters.
+QString without(QStringView characters, QStringView text);
+
+/// The decimal integer that a text begins with: a sign, then ASCII digits up to the first other
+/// character. 0 where there is none; the nearest there is where it does not fit.
+std::int64_t leadingInteger(QStringView text);
+
+} // namespace tessara
