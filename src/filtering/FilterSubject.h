@@ -1,28 +1,33 @@
 #pragma once
 
+#include "filtering/FilterText.h"
 #include "model/TSNetwork.h"
 
 namespace tessara {
 
-/// A network before a filter, with the texts that a record has to look up: they are looked up once
-/// for all terms.
+/// A network before a filter, with its texts without case: they are looked up and folded once for
+/// all terms.
 struct FilterSubject {
     explicit FilterSubject(const TSNetwork& record, bool first = true)
         : network(&record)
         , isFirst(first)
-        , ssid(record.ssid())
-        , deviceName(record.deviceName())
-        , annotations(record.annotations())
-        , vendor(record.vendorValue())
+        , bssid(caseFolded(record.bssid()))
+        , ssid(caseFolded(record.ssid()))
+        , deviceName(caseFolded(record.deviceName()))
+        , annotations(caseFolded(record.annotations()))
+        , vendor(caseFolded(record.vendorValue()))
+        , countryCode(caseFolded(record.countryCodeValue()))
     {
     }
 
     const TSNetwork* network;
     bool isFirst; ///< of the list that is filtered
+    QString bssid;
     QString ssid;
     QString deviceName;
     QString annotations;
     QString vendor;
+    QString countryCode;
 };
 
 } // namespace tessara

@@ -1,7 +1,5 @@
 #include "filtering/FilterText.h"
 
-#include <QString>
-
 #include <algorithm>
 #include <limits>
 
@@ -37,6 +35,24 @@ QString without(QStringView characters, QStringView text)
     std::ranges::copy_if(text, std::back_inserter(rest),
                          [&](QChar character) { return !characters.contains(character); });
     return rest;
+}
+
+QString caseFolded(QStringView text)
+{
+    QString folded = text.toString();
+    QChar* units = folded.data();
+    for (qsizetype i = 0; i < folded.size(); ++i) {
+        const QChar unit = units[i];
+        if (unit.isHighSurrogate() && i + 1 < folded.size() && units[i + 1].isLowSurrogate()) {
+            // No letter's other case needs more units than the letter itself.
+            const char32_t letter = QChar::toCaseFolded(QChar::surrogateToUcs4(unit, units[i + 1]));
+            units[i] = QChar(QChar::highSurrogate(letter));
+            units[++i] = QChar(QChar::lowSurrogate(letter));
+        } else {
+            units[i] = unit.toCaseFolded();
+        }
+    }
+    return folded;
 }
 
 std::int64_t leadingInteger(QStringView text)

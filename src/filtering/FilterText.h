@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QStringView>
+#include <QString>
 
 #include <cstdint>
 
@@ -11,6 +11,10 @@ QStringView trimmedOfBlanks(QStringView text);
 
 /// A text without any of some characters.
 QString without(QStringView characters, QStringView text);
+
+/// A text as it stands for all its writings in upper and lower case: two texts are equal without
+/// case, as `caseInsensitiveCompare` has it, if these are equal.
+QString caseFolded(QStringView text);
 
 /// The decimal integer that a text begins with: a sign, then ASCII digits up to the first other
 /// character. 0 where there is none; the nearest there is where it does not fit.

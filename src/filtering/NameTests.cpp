@@ -1,9 +1,6 @@
 #include "filtering/NameTests.h"
 
 #include "filtering/FilterText.h"
-#include "foundation/TextOrder.h"
-
-#include <QStringMatcher>
 
 namespace tessara {
 
@@ -35,19 +32,16 @@ std::optional<FilterColumn> columnOfName(const FilterSubject& subject, Predicate
 
 bool isCountryCode(const FilterSubject& subject, const QString& text)
 {
-    const QString& code = subject.network->attributes().countryCode;
-    return !code.isEmpty() && caseInsensitiveCompare(code, text) == 0;
+    return !subject.countryCode.isEmpty() && subject.countryCode == text;
 }
 
 FilterTest wholeName(const QString& name)
 {
     return [name](const FilterSubject& subject) -> std::optional<FilterColumn> {
-        const auto isName = [&](const QString& text) {
-            return caseInsensitiveCompare(text, name) == 0;
-        };
-        if (isName(subject.network->bssid()))
+        if (subject.bssid == name)
             return FilterColumn::kBSSID;
-        if (const auto column = columnOfName(subject, isName))
+        if (const auto column =
+                columnOfName(subject, [&](const QString& text) { return text == name; }))
             return column;
         return isCountryCode(subject, name) ? std::optional(FilterColumn::kCountryCode)
                                             : std::nullopt;
@@ -56,10 +50,9 @@ FilterTest wholeName(const QString& name)
 
 FilterTest partOfName(const QString& part, const QString& countryCode)
 {
-    return [matcher = QStringMatcher(part, Qt::CaseInsensitive),
-            countryCode](const FilterSubject& subject) -> std::optional<FilterColumn> {
-        const auto holdsPart = [&](const QString& text) { return matcher.indexIn(text) >= 0; };
-        if (const auto column = columnOfName(subject, holdsPart))
+    return [part, countryCode](const FilterSubject& subject) -> std::optional<FilterColumn> {
+        if (const auto column =
+                columnOfName(subject, [&](const QString& text) { return text.contains(part); }))
             return column;
         return isCountryCode(subject, countryCode) ? std::optional(FilterColumn::kCountryCode)
                                                    : std::nullopt;
@@ -72,9 +65,8 @@ FilterTest partOfBSSID(QStringView token)
 {
     if (isQuoted(token) || !token.contains(u':'))
         return {};
-    return [matcher = QStringMatcher(token.toString(), Qt::CaseInsensitive)](
-               const FilterSubject& subject) -> std::optional<FilterColumn> {
-        if (matcher.indexIn(subject.network->bssid()) >= 0)
+    return [part = caseFolded(token)](const FilterSubject& subject) -> std::optional<FilterColumn> {
+        if (subject.bssid.contains(part))
             return FilterColumn::kBSSID;
         return std::nullopt;
     };
@@ -82,8 +74,9 @@ FilterTest partOfBSSID(QStringView token)
 
 FilterTest nameTest(QStringView token)
 {
-    const QString bare = without(kQuotationMark, token);
-    return isQuoted(token) ? wholeName(bare) : partOfName(token.toString(), bare);
+    const QString folded = caseFolded(token);
+    const QString bare = without(kQuotationMark, folded);
+    return isQuoted(token) ? wholeName(bare) : partOfName(folded, bare);
 }
 
 } // namespace tessara
