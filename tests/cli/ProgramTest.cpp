@@ -139,6 +139,18 @@ TEST_F(ProgramTest, ListsTheNetworksAfterTheLastScan)
               std::numeric_limits<qint64>::max());
 }
 
+TEST_F(ProgramTest, ListsWhatAFilterSelects)
+{
+    write("two.jsonl", kTwoScans);
+    EXPECT_EQ(run(QStringLiteral("networks two.jsonl --columns SSID --filter '>-60 & !36'")).out,
+              QStringLiteral("Network Name\nZoo\n"));
+    const QString json =
+        run(QStringLiteral("networks two.jsonl --format json --filter 'att, 6 & !5GHz, !n'")).out;
+    EXPECT_EQ(QJsonDocument::fromJson(json.toUtf8())[QStringLiteral("filterIdentifiers")].toArray(),
+              (QJsonArray{QStringLiteral("CHANNEL"), QStringLiteral("CHANNEL_BAND"),
+                          QStringLiteral("SSID")}));
+}
+
 TEST_F(ProgramTest, ShowsWhatCouldBeReadBeforeAnError)
 {
     write("broken.jsonl", kTwoScans + "{\"time\":1}\n");

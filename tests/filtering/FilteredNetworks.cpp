@@ -89,7 +89,8 @@ NetworkList filteredNetworks()
         dictionary.channelNumber = row.channel;
         if (row.ssid)
             dictionary.ssid = QString::fromUtf16(row.ssid);
-        dictionary.informationElementData = QByteArray::fromHex(row.elements);
+        if (*row.elements)
+            dictionary.informationElementData = QByteArray::fromHex(row.elements);
         dictionary.phyMode = row.phyMode;
         dictionary.securityMode = static_cast<std::int64_t>(row.security);
         auto network = std::make_shared<TSNetwork>(dictionary, 0);
