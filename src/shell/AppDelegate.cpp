@@ -215,8 +215,7 @@ void AppDelegate::saveDefaults()
 
 void AppDelegate::selectQuickFilter(QuickFilter filter)
 {
-    Defaults::standard().setValue(DefaultKey::QuickFilterSelectedItem,
-                                  static_cast<qint64>(filter));
+    Defaults::standard().setValue(DefaultKey::QuickFilterSelectedItem, static_cast<qint64>(filter));
     if (isQuickFilter(filter))
         m_window.setQuickFilter(filter);
     setUpPipeline();
@@ -288,13 +287,21 @@ void AppDelegate::configureAll()
     updateStateInfo();
 }
 
+QString AppDelegate::placeholderText() const
+{
+    if (!m_pipeline.networks().empty())
+        return localized("None of the networks found is to be shown");
+    return localized(m_scanCycle.isScanning() ? "No networks yet"
+                                              : "Press Scan to look for networks");
+}
+
 void AppDelegate::configureNetworksView()
 {
     const Defaults& defaults = Defaults::standard();
     TSNetworksView& table = m_window.networksView();
     table.setFontSize(defaults.doubleForKey(DefaultKey::NetworksViewFontSize));
-    table.setPlaceholderText(localized(
-        m_scanCycle.isScanning() ? "No networks yet" : "Press Scan to look for networks"));
+    table.setPlaceholderText(placeholderText());
+    table.setFilteredColumns(m_pipeline.filteredColumnIdentifiers());
     table.setNetworks(m_pipeline.filteredNetworks(),
                       CellContext::fromDefaults(m_scanCycle.isScanning()));
 }

@@ -64,6 +64,7 @@ private:
     void showNoInterfaceAlert();
     void checkVendorsDatabaseLater();
     void configureNetworksView();
+    QString placeholderText() const;
     bool windowShouldClose();
     void windowWillClose();
     void applicationWillTerminate();

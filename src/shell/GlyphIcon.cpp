@@ -27,6 +27,16 @@ QPainterPath shapeOf(Glyph glyph)
     case Glyph::kStop:
         path.addRect(3.5, 3.5, 9, 9);
         break;
+    case Glyph::kSearch: {
+        QPainterPath lens;
+        lens.addEllipse(QPointF(6.5, 6.5), 4.5, 4.5);
+        QPainterPath glass;
+        glass.addEllipse(QPointF(6.5, 6.5), 3.5, 3.5);
+        path = lens.subtracted(glass);
+        path.addPolygon(QPolygonF({{9.6, 10.2}, {10.2, 9.6}, {14, 13.4}, {13.4, 14}}));
+        path.closeSubpath();
+        break;
+    }
     }
     return path;
 }

@@ -5,6 +5,7 @@
 #include "foundation/Localized.h"
 #include "shell/ActivityIndicator.h"
 #include "shell/ElidedLabel.h"
+#include "shell/FilterField.h"
 #include "shell/GlyphIcon.h"
 #include "shell/IntervalMenu.h"
 #include "shell/TSNetworksView.h"
@@ -64,6 +65,7 @@ MainWindow::MainWindow()
     setContextMenuPolicy(Qt::NoContextMenu); // it would offer to hide the toolbar
     makeActions();
     makeQuickFilter();
+    makeFilter();
     makeToolBar();
     makeMenus();
     makeFooter();
@@ -107,6 +109,8 @@ void MainWindow::makeToolBar()
     bar.addWidget(m_info); // takes the room there is
     bar.addWidget(makeSpace(side / 2));
     bar.addWidget(m_quickFilter);
+    bar.addWidget(makeSpace(side / 2));
+    bar.addWidget(m_filter);
 }
 
 void MainWindow::makeQuickFilter()
@@ -124,6 +128,16 @@ void MainWindow::makeQuickFilter()
     }
     connect(m_quickFilter, &QComboBox::activated, this,
             [this](int index) { Q_EMIT quickFilterSelected(static_cast<QuickFilter>(index)); });
+}
+
+void MainWindow::makeFilter()
+{
+    m_filter = new FilterField;
+    m_filter->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    connect(m_filter, &QLineEdit::textChanged, this, &MainWindow::filterChanged);
+    const auto toTable = [this] { m_networksView->setFocus(); };
+    connect(m_filter, &FilterField::didLeave, this, toTable);
+    connect(m_filter, &QLineEdit::returnPressed, this, toTable);
 }
 
 void MainWindow::setQuickFilter(QuickFilter filter)
@@ -149,6 +163,12 @@ void MainWindow::makeMenus()
     scan.addMenu(m_intervalMenu);
 
     QMenu& view = *menuBar()->addMenu(localized("&View"));
+    QAction* filter = view.addAction(localized("&Filter"), this, [this] {
+        m_filter->setFocus(Qt::ShortcutFocusReason);
+        m_filter->selectAll();
+    });
+    filter->setShortcut(QKeySequence::Find);
+    view.addSeparator();
     view.addActions(m_quickFilterItems->actions());
     view.addSeparator();
     QMenu* columns = view.addMenu(localized("&Columns"));

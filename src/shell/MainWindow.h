@@ -15,6 +15,7 @@ namespace tessara {
 
 class ActivityIndicator;
 class ElidedLabel;
+class FilterField;
 class IntervalMenu;
 class TSNetworksView;
 
@@ -49,6 +50,7 @@ Q_SIGNALS:
     void scanRequested();
     void stopRequested();
     void quickFilterSelected(QuickFilter filter);
+    void filterChanged(const QString& line);
     /// @param value as `SignalThreshold` has it; 0 turns it off
     void filterUsingKeys(std::int64_t value);
 
@@ -60,6 +62,7 @@ private:
     void makeToolBar();
     void makeMenus();
     void makeQuickFilter();
+    void makeFilter();
     void makeFooter();
     void showAbout();
 
@@ -73,6 +76,7 @@ private:
     QLabel* m_rightFooter = nullptr;
     bool m_rightFooterShowsThreshold = false;
     QComboBox* m_quickFilter = nullptr;
+    FilterField* m_filter = nullptr;
     QActionGroup* m_quickFilterItems = nullptr; ///< of the View menu
 };
 

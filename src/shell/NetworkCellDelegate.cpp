@@ -91,6 +91,13 @@ QColor translucent(QColor color, float opacity)
     return color;
 }
 
+/// On light and dark palettes.
+QColor filteredCellColor(const QPalette& palette)
+{
+    const bool isDark = palette.color(QPalette::Base).lightnessF() < 0.5F;
+    return isDark ? translucent(Qt::blue, 0.2F) : translucent(QColor(255, 128, 0), 0.15F);
+}
+
 QColor barColor(const LevelColumn& column, const QStyleOptionViewItem& option, bool isGrayedOut)
 {
     const bool isSelected = option.state.testFlag(QStyle::State_Selected);
@@ -155,6 +162,8 @@ void NetworkCellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& o
     initStyleOption(&cell, index);
     const QStyle& style = *cell.widget->style();
     style.drawPrimitive(QStyle::PE_PanelItemViewItem, &cell, painter, cell.widget);
+    if (m_filteredColumns.contains(column.identifier))
+        painter->fillRect(cell.rect, filteredCellColor(cell.palette));
     if (column.cell == CellKind::kLevel)
         paintLevel(*painter, cell, column, network);
 

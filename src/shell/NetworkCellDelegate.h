@@ -1,5 +1,6 @@
 #pragma once
 
+#include "filtering/FilterIdentifiers.h"
 #include "shell/LevelBar.h"
 
 #include <QStyledItemDelegate>
@@ -27,6 +28,9 @@ public:
     bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
                    const QModelIndex& index) override;
 
+    /// The columns on which a filter found networks stand out, in all rows.
+    void setFilteredColumns(const FilterIdentifiers& columns) { m_filteredColumns = columns; }
+
     /// The height of a row in the font of the table, in pixels.
     static int rowHeight(const QFontMetrics& metrics);
 
@@ -38,6 +42,7 @@ private:
                     const TSNetwork& network) const;
 
     const NetworksTableModel& m_model;
+    FilterIdentifiers m_filteredColumns;
 };
 
 } // namespace tessara

@@ -51,6 +51,7 @@ bool canBeHidden(const Column& column)
 
 TSNetworksView::TSNetworksView(QWidget* parent)
     : QTreeView(parent)
+    , m_delegate(new NetworkCellDelegate(m_model, this))
     , m_widths(columns().size(), 0)
 {
     setAccessibleName(localized("Networks"));
@@ -63,7 +64,7 @@ TSNetworksView::TSNetworksView(QWidget* parent)
     setVerticalScrollMode(ScrollPerPixel);
     setEditTriggers(NoEditTriggers);
     setFrameShape(QFrame::NoFrame);
-    setItemDelegate(new NetworkCellDelegate(m_model, this));
+    setItemDelegate(m_delegate);
     setModel(&m_model);
     setUpHeader();
     setDefaultLayout();
@@ -147,6 +148,12 @@ void TSNetworksView::selectHighlightedNetworks()
     }
     if (!missing.isEmpty())
         selectionModel()->select(missing, QItemSelectionModel::Select | QItemSelectionModel::Rows);
+}
+
+void TSNetworksView::setFilteredColumns(const FilterIdentifiers& columns)
+{
+    m_delegate->setFilteredColumns(columns);
+    viewport()->update();
 }
 
 void TSNetworksView::setPlaceholderText(const QString& text)

@@ -12,6 +12,8 @@ class QMenu;
 
 namespace tessara {
 
+class NetworkCellDelegate;
+
 /// The networks table: its columns, their order, their menu, and the selection.
 ///
 /// Being selected is a property of the network (`isUserHighlighted`), so that it survives a new
@@ -23,6 +25,8 @@ public:
     explicit TSNetworksView(QWidget* parent = nullptr);
 
     void setNetworks(const NetworkList& networks, const CellContext& context);
+    /// The columns that stand out.
+    void setFilteredColumns(const FilterIdentifiers& columns);
     /// What an empty table says.
     void setPlaceholderText(const QString& text);
     /// @param points size of the font of the rows
@@ -69,6 +73,7 @@ private:
     void selectHighlightedNetworks();
 
     NetworksTableModel m_model;
+    NetworkCellDelegate* m_delegate;
     QString m_placeholderText;
     std::vector<SortDescriptor> m_sortDescriptors;
     std::vector<int> m_widths; ///< pixels, by column; a hidden column keeps its own

@@ -2,11 +2,13 @@
 
 #include "foundation/Defaults.h"
 #include "scanning/ScriptedInterface.h"
+#include "shell/FilterField.h"
 #include "shell/IntervalMenu.h"
 #include "shell/TSNetworksView.h"
 #include "support/ManualClock.h"
 
 #include <QAction>
+#include <QComboBox>
 #include <QHeaderView>
 #include <QMessageBox>
 #include <QSettings>
@@ -197,6 +199,32 @@ TEST_F(AppDelegateTest, ChecksTheStoredIntervalAndScansAtItsOwnPace)
     EXPECT_TRUE(items.first()->isChecked());
     EXPECT_FALSE(items.last()->isChecked());
     EXPECT_EQ(bodies.size(), 1U) << "no other engine was started";
+}
+
+TEST_F(AppDelegateTest, NarrowsTheListByLineKindAndKeys)
+{
+    launch();
+    CWNetwork near = named("02:00:00:00:00:01", "Home");
+    near.rssiValue = -40;
+    CWNetwork far = named("02:00:00:00:00:02", "Work");
+    far.rssiValue = -80;
+    engineScans({near, far});
+    auto* filter = delegate->window().findChild<FilterField*>();
+
+    QTest::keyClicks(filter, QStringLiteral("home"));
+    EXPECT_THAT(names(), ElementsAre("Home"));
+    EXPECT_TRUE(delegate->pipeline().filteredColumnIdentifiers().contains(u"SSID"));
+    QTest::keyClick(filter, Qt::Key_Escape);
+    EXPECT_THAT(names(), ElementsAre("Home", "Work"));
+
+    QTest::keyClick(&delegate->window().networksView(), Qt::Key_5, Qt::AltModifier);
+    EXPECT_THAT(names(), ElementsAre("Home"));
+    QTest::keyClick(&delegate->window(), Qt::Key_Escape);
+    EXPECT_THAT(names(), ElementsAre("Home", "Work"));
+
+    Q_EMIT delegate->window().findChild<QComboBox*>()->activated(2); // secure networks
+    EXPECT_THAT(names(), ElementsAre());
+    EXPECT_EQ(Defaults::standard().integerForKey(DefaultKey::QuickFilterSelectedItem), 2);
 }
 
 TEST_F(AppDelegateTest, AsksOnceToTurnWiFiOnAndWithdrawsTheQuestionWhenItIsOn)

@@ -1,0 +1,102 @@
+#include "shell/FilterField.h"
+
+#include "foundation/Defaults.h"
+#include "foundation/Localized.h"
+#include "shell/GlyphIcon.h"
+
+#include <QAction>
+#include <QKeyEvent>
+#include <QMenu>
+
+namespace tessara {
+
+namespace {
+
+constexpr int kRecentFilters = 10;
+constexpr int kWidth = 32; // characters
+
+/// A line of text as an item of a menu, which takes "&" for something else.
+QString itemText(QString line)
+{
+    return line.replace(u'&', QStringLiteral("&&"));
+}
+
+} // namespace
+
+FilterField::FilterField(QWidget* parent)
+    : QLineEdit(parent)
+    , m_recentFilters(new QMenu(this))
+{
+    setPlaceholderText(localized("Filter"));
+    setAccessibleName(localized("Filter"));
+    setClearButtonEnabled(true);
+    setToolTip(
+        localized("home: networks with \"home\" in a name, an address or their maker's name\n"
+                  "\"Home\": networks of exactly this name\n"
+                  "5GHz, 80MHz, 36, ac, wpa2, DE: band, width, channel, mode, security, country\n"
+                  ">-70, >=50%: the last signal; !home: all but these\n"
+                  "a, b & c: networks that are a or b, and c"));
+    QAction* menu = addAction(glyphIcon(Glyph::kSearch), LeadingPosition);
+    menu->setToolTip(localized("Recent filters"));
+    connect(menu, &QAction::triggered, this, [this] {
+        fillMenu();
+        m_recentFilters->popup(mapToGlobal(rect().bottomLeft()));
+    });
+    connect(this, &QLineEdit::returnPressed, this, &FilterField::remember);
+}
+
+QSize FilterField::sizeHint() const
+{
+    return {fontMetrics().averageCharWidth() * kWidth, QLineEdit::sizeHint().height()};
+}
+
+void FilterField::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() != Qt::Key_Escape) {
+        QLineEdit::keyPressEvent(event);
+        return;
+    }
+    // First the line goes, then the field is left.
+    if (text().isEmpty())
+        Q_EMIT didLeave();
+    else
+        clear();
+}
+
+void FilterField::focusOutEvent(QFocusEvent* event)
+{
+    remember();
+    QLineEdit::focusOutEvent(event);
+}
+
+void FilterField::remember()
+{
+    const QString line = text().trimmed();
+    if (line.isEmpty())
+        return;
+    Defaults& defaults = Defaults::standard();
+    QStringList lines = defaults.value(DefaultKey::RecentFilters).toStringList();
+    lines.removeAll(line);
+    lines.prepend(line);
+    defaults.setValue(DefaultKey::RecentFilters, QStringList(lines.mid(0, kRecentFilters)));
+}
+
+void FilterField::fillMenu()
+{
+    m_recentFilters->clear();
+    const QStringList lines = Defaults::standard().value(DefaultKey::RecentFilters).toStringList();
+    if (lines.isEmpty()) {
+        m_recentFilters->addAction(localized("No Recent Filters"))->setEnabled(false);
+        return;
+    }
+    m_recentFilters->addSection(localized("Recent Filters"));
+    for (const QString& line : lines) {
+        connect(m_recentFilters->addAction(itemText(line)), &QAction::triggered, this,
+                [this, line] { setText(line); });
+    }
+    m_recentFilters->addSeparator();
+    connect(m_recentFilters->addAction(localized("Clear Recent Filters")), &QAction::triggered,
+            this, [] { Defaults::standard().remove(DefaultKey::RecentFilters); });
+}
+
+} // namespace tessara
