@@ -119,9 +119,12 @@ QString seenText(const NetworkRow& row, const CellContext& context)
     }
     constexpr std::int64_t kMinute = 60;
     constexpr std::int64_t kHour = 3600;
-    const auto elapsed =
-        static_cast<std::int64_t>(std::floor(row.lastSeenElapsedSecondsValue() + 0.5));
-    if (elapsed < 1 && row.bestNetwork().rssi() != TSDataPoint::kNoData)
+    const TSNetwork* network = row.bestNetwork();
+    const auto sinceLastSeen = row.lastSeenElapsedSecondsValue();
+    if (!network || !sinceLastSeen)
+        return {};
+    const auto elapsed = static_cast<std::int64_t>(std::floor(*sinceLastSeen + 0.5));
+    if (elapsed < 1 && network->rssi() != TSDataPoint::kNoData)
         return localized("Just now");
     // Steps of 5 seconds keep the column calm.
     const std::int64_t seconds = std::max<std::int64_t>(elapsed / 5 * 5, 2);

@@ -56,10 +56,10 @@ public:
 
     virtual std::optional<double> firstSeenValue() const = 0; ///< seconds since 1970
     virtual std::optional<double> lastSeenValue() const = 0;
-    virtual double lastSeenElapsedSecondsValue() const = 0;
+    virtual std::optional<double> lastSeenElapsedSecondsValue() const = 0;
 
-    /// The network that stands for the row.
-    virtual const TSNetwork& bestNetwork() const = 0;
+    /// The network that stands for the row; none for a collection without members.
+    virtual const TSNetwork* bestNetwork() const = 0;
 };
 
 } // namespace tessara

@@ -229,8 +229,11 @@ public:
     QString beaconIntervalValue() const override;
     std::optional<double> firstSeenValue() const override;
     std::optional<double> lastSeenValue() const override { return m_lastSeen; }
-    double lastSeenElapsedSecondsValue() const override { return m_lastSeenElapsedSeconds; }
-    const TSNetwork& bestNetwork() const override { return *this; }
+    std::optional<double> lastSeenElapsedSecondsValue() const override
+    {
+        return m_lastSeenElapsedSeconds;
+    }
+    const TSNetwork* bestNetwork() const override { return this; }
 
 private:
     using Reading = std::int64_t (TSDataPoint::*)() const;
