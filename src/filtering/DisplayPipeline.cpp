@@ -80,7 +80,18 @@ void DisplayPipeline::filterAndSetNetworks(const NetworkList& networks)
     for (const NetworkPtr& network : shown)
         network->setAssociated(isAssociated(*network)); // of those that are not shown it stays
     m_filteredNetworks = sortedNetworks(shown, m_sortDescriptors);
+    computeCollections();
 }
+
+void DisplayPipeline::onViewOrganizeNetworksBy(Defaults& defaults)
+{
+    defaults.setValue(DefaultKey::OrganizeNetworksBy, 0);
+    filterAndSetNetworks(m_networks);
+}
+
+/// The step in which networks would be grouped, each group one row (`TSNetworkCollection`). It is
+/// empty on purpose: the list is flat, and its rows are the filtered networks themselves.
+void DisplayPipeline::computeCollections() {}
 
 QString DisplayPipeline::footerText() const
 {

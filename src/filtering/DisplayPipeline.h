@@ -62,6 +62,9 @@ public:
 
     /// Takes the list of all networks and works out what is shown.
     void filterAndSetNetworks(const NetworkList& networks);
+    /// Stores that networks are not organised, the one choice there is, and works out anew what is
+    /// shown.
+    void onViewOrganizeNetworksBy(Defaults& defaults);
 
     const NetworkList& networks() const { return m_networks; }
     const NetworkList& filteredNetworks() const { return m_filteredNetworks; }
@@ -79,6 +82,7 @@ private:
     void clearUserHighlighted();
     bool isKept(const TSNetwork& network) const;
     bool isAssociated(const TSNetwork& network) const;
+    void computeCollections();
 
     ShownKinds m_shownKinds;
     QuickFilter m_quickFilter = QuickFilter::kAllNetworks;
