@@ -31,7 +31,7 @@ FilterField::FilterField(QWidget* parent)
     setAccessibleName(localized("Filter"));
     setClearButtonEnabled(true);
     setToolTip(
-        localized("home: networks with \"home\" in a name, an address or their maker's name\n"
+        localized("home: networks with \"home\" in their name, in a note or in their maker's name\n"
                   "\"Home\": networks of exactly this name\n"
                   "5GHz, 80MHz, 36, ac, wpa2, DE: band, width, channel, mode, security, country\n"
                   ">-70, >=50%: the last signal; !home: all but these\n"
