@@ -290,7 +290,7 @@ void AppDelegate::configureAll()
 QString AppDelegate::placeholderText() const
 {
     if (!m_pipeline.networks().empty())
-        return localized("None of the networks found is to be shown");
+        return localized("No network passes the filters");
     return localized(m_scanCycle.isScanning() ? "No networks yet"
                                               : "Press Scan to look for networks");
 }

@@ -27,7 +27,7 @@ namespace tessara {
 namespace {
 
 constexpr QSize kFreshSize(1100, 735);
-constexpr QSize kSmallestSize(560, 360);
+constexpr QSize kSmallestSize(760, 400); // the toolbar fits
 constexpr int kFooterMargin = 6;
 constexpr double kFirstRunWidth = 0.9;
 constexpr double kFirstRunHeight = 0.85;
