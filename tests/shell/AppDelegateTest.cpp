@@ -274,7 +274,7 @@ TEST_F(AppDelegateTest, StoresTheSettingsOnceWhenTheWindowCloses)
 {
     Defaults::standard().setValue(DefaultKey::SignalStrengthThreshold, -70);
     launch();
-    window().setGeometry(40, 50, 700, 500);
+    window().setGeometry(40, 50, 900, 500);
     const int vendor = static_cast<int>(columnWithIdentifier(u"VENDOR") - columnRegistry().data());
     table().setColumnHidden(vendor, true);
     QSignalSpy ends(delegate.get(), &AppDelegate::didTerminate);
@@ -291,7 +291,7 @@ TEST_F(AppDelegateTest, StoresTheSettingsOnceWhenTheWindowCloses)
               QStringLiteral(TESSARA_VERSION));
 
     launch();
-    EXPECT_EQ(window().size(), QSize(700, 500));
+    EXPECT_EQ(window().size(), QSize(900, 500));
     EXPECT_TRUE(table().isColumnHidden(vendor));
 }
 
