@@ -17,17 +17,20 @@ struct FilterSubject {
         , annotations(caseFolded(record.annotations()))
         , vendor(caseFolded(record.vendorValue()))
         , countryCode(caseFolded(record.countryCodeValue()))
+        , nameMarks(characterMarks(ssid) | characterMarks(deviceName) |
+                    characterMarks(annotations) | characterMarks(vendor))
     {
     }
 
     const TSNetwork* network;
     bool isFirst; ///< of the list that is filtered
     QString bssid;
-    QString ssid;
+    QString ssid; ///< this and the next three are the names
     QString deviceName;
     QString annotations;
     QString vendor;
     QString countryCode;
+    std::uint64_t nameMarks; ///< of the four names together
 };
 
 } // namespace tessara

@@ -55,6 +55,14 @@ QString caseFolded(QStringView text)
     return folded;
 }
 
+std::uint64_t characterMarks(QStringView text)
+{
+    std::uint64_t marks = 0;
+    for (const QChar character : text)
+        marks |= std::uint64_t{1} << (character.unicode() % 64);
+    return marks;
+}
+
 std::int64_t leadingInteger(QStringView text)
 {
     const bool negative = text.startsWith(u'-');

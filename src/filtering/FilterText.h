@@ -16,6 +16,10 @@ QString without(QStringView characters, QStringView text);
 /// case, as `caseInsensitiveCompare` has it, if these are equal.
 QString caseFolded(QStringView text);
 
+/// Marks of the characters of a text, for a quick look before a search: a text can only be part of
+/// another one whose marks hold all of its own.
+std::uint64_t characterMarks(QStringView text);
+
 /// The decimal integer that a text begins with: a sign, then ASCII digits up to the first other
 /// character. 0 where there is none; the nearest there is where it does not fit.
 std::int64_t leadingInteger(QStringView text);

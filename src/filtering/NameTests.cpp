@@ -50,10 +50,13 @@ FilterTest wholeName(const QString& name)
 
 FilterTest partOfName(const QString& part, const QString& countryCode)
 {
-    return [part, countryCode](const FilterSubject& subject) -> std::optional<FilterColumn> {
-        if (const auto column =
-                columnOfName(subject, [&](const QString& text) { return text.contains(part); }))
-            return column;
+    return [part, countryCode, marks = characterMarks(part)](
+               const FilterSubject& subject) -> std::optional<FilterColumn> {
+        if ((marks & ~subject.nameMarks) == 0) {
+            if (const auto column =
+                    columnOfName(subject, [&](const QString& text) { return text.contains(part); }))
+                return column;
+        }
         return isCountryCode(subject, countryCode) ? std::optional(FilterColumn::kCountryCode)
                                                    : std::nullopt;
     };

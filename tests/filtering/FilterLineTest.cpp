@@ -66,6 +66,7 @@ TEST(FilterLine, TakesKeywordsForAttributesAndNeverForNames)
         {u"40MHz", "03", "CHANNEL_WIDTH"},
         {u"80MHz", "2", "CHANNEL_WIDTH"},
         {u"160MHz", "6", "CHANNEL_WIDTH"},
+        {u"2.0MHz", "", ""}, // no width, unlike a band, takes a dot
         {u"6", "0", "CHANNEL"},
         {u"\"06\"", "0", "CHANNEL"},
         {u"11", "4", "CHANNEL"},
