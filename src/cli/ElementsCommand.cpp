@@ -11,6 +11,8 @@
 #include <QTextStream>
 
 #include <algorithm>
+#include <cctype>
+#include <utility>
 
 namespace tessara {
 
