@@ -38,6 +38,7 @@ std::vector<DefaultEntry> makeTable()
         {ShowNetworkLabel, Type::Bool, true},
         {SelectedTabViewIdentifier, Type::QString, none},
         {SideViewExpandedItems, Type::QStringList, none},
+        {HorizontalSplitView, Type::QByteArray, none},
         {RanOnce, Type::Bool, none},
         {WindowFrame, Type::QByteArray, none},
         {LastLaunchedVersion, Type::QString, none},

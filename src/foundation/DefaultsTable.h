@@ -34,6 +34,7 @@ TESSARA_DEFAULT_KEY(SideViewFontSize);
 TESSARA_DEFAULT_KEY(ShowNetworkLabel);
 TESSARA_DEFAULT_KEY(SelectedTabViewIdentifier);
 TESSARA_DEFAULT_KEY(SideViewExpandedItems);
+TESSARA_DEFAULT_KEY(HorizontalSplitView);
 TESSARA_DEFAULT_KEY(RanOnce);
 TESSARA_DEFAULT_KEY(WindowFrame);
 TESSARA_DEFAULT_KEY(LastLaunchedVersion);

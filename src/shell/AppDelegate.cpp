@@ -5,6 +5,7 @@
 #include "shell/ActivityIndicator.h"
 #include "shell/IntervalMenu.h"
 #include "shell/TSNetworksView.h"
+#include "shell/TSSideView.h"
 
 #include <QEvent>
 
@@ -55,6 +56,11 @@ void AppDelegate::connectParts(NotificationCenter& notifications)
     connect(&table, &TSNetworksView::sortDescriptorsDidChange, this,
             [this] { filterAndSetNetworks(m_pipeline.networks()); });
 
+    const TSSideView& sideView = m_window.sideView();
+    connect(&sideView, &TSSideView::selectionDidChange, this,
+            &AppDelegate::sideViewSelectionDidChange);
+    connect(&sideView, &TSSideView::didClickBeside, this, &AppDelegate::userDidClickSourceList);
+
     connect(&m_vendorsUpdate, &VendorDatabaseUpdate::databaseDidChange, this,
             &AppDelegate::prepareAndReload);
 
@@ -84,6 +90,10 @@ void AppDelegate::applicationWillFinishLaunching()
     loadDefaults();
     m_window.networksView().restoreLayout(
         Defaults::standard().value(DefaultKey::NetworksTable).toByteArray());
+    m_window.restoreSplitter(
+        Defaults::standard().value(DefaultKey::HorizontalSplitView).toByteArray());
+    m_window.sideView().setExpandedItems(
+        Defaults::standard().value(DefaultKey::SideViewExpandedItems).toStringList());
     prepareAndReload();
     validateScanStopItems();
     // While scanning, the next tick shows what a setting has changed.
@@ -106,6 +116,7 @@ void AppDelegate::loadDefaults()
             defaults.correctValue(key, std::clamp(size, smallest, largest));
     }
     m_window.networksView().setFontSize(defaults.doubleForKey(DefaultKey::NetworksViewFontSize));
+    m_window.sideView().setFontSize(defaults.doubleForKey(DefaultKey::SideViewFontSize));
 }
 
 void AppDelegate::showWindow()
@@ -208,7 +219,10 @@ void AppDelegate::applicationWillTerminate()
 
 void AppDelegate::saveDefaults()
 {
-    Defaults::standard().setValue(DefaultKey::NetworksTable, m_window.networksView().layoutState());
+    Defaults& defaults = Defaults::standard();
+    defaults.setValue(DefaultKey::NetworksTable, m_window.networksView().layoutState());
+    defaults.setValue(DefaultKey::HorizontalSplitView, m_window.splitterState());
+    defaults.setValue(DefaultKey::SideViewExpandedItems, m_window.sideView().expandedItems());
 }
 
 // Filters ---------------------------------------------------------------------------------------
@@ -228,6 +242,31 @@ void AppDelegate::onFilter(const QString& line)
     setUpPipeline();
     m_pipeline.onFilter(line);
     showFilteredNetworks();
+}
+
+void AppDelegate::sideViewSelectionDidChange(const std::optional<TSSideViewItem>& item)
+{
+    m_sideViewSelection.identifier.clear();
+    if (!item)
+        return;
+    if (item->identifier.startsWith(QLatin1String("item")))
+        m_sideViewSelection.identifier = item->identifier;
+    // The same value under another facet waits for the next pass, and it is meant so.
+    if (item->filterString == m_sideViewSelection.string)
+        return;
+    m_sideViewSelection.string = item->filterString;
+    m_window.networksView().clearSelection();
+    filterAndSetNetworks(m_pipeline.networks());
+}
+
+void AppDelegate::userDidClickSourceList()
+{
+    TSSideView& sideView = m_window.sideView();
+    if (sideView.selectionModel()->hasSelection()) {
+        sideView.clearSelection(); // takes the facet away
+        filterAndSetNetworks(m_pipeline.networks());
+    }
+    m_window.networksView().clearSelection();
 }
 
 void AppDelegate::handleFilterUsingKeys(std::int64_t threshold)
@@ -255,10 +294,12 @@ void AppDelegate::setUpPipeline()
         {m_signalStrengthThreshold, defaults.integerForKey(DefaultKey::Units) == 1});
     m_pipeline.setSortDescriptors(m_window.networksView().sortDescriptors());
     m_pipeline.setAssociation(association());
+    m_pipeline.setSideViewSelection(m_sideViewSelection);
 }
 
 void AppDelegate::showFilteredNetworks()
 {
+    configureSideView();
     m_window.setThresholdFooter(m_pipeline.signalThreshold().text());
     prepareAndReload();
 }
@@ -285,6 +326,11 @@ void AppDelegate::configureAll()
     configureNetworksView();
     m_window.setLeftFooter(m_pipeline.footerText());
     updateStateInfo();
+}
+
+void AppDelegate::configureSideView()
+{
+    m_window.sideView().setItems(sideViewOf(m_pipeline.sideViewNetworks()));
 }
 
 QString AppDelegate::placeholderText() const

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "filtering/DisplayPipeline.h"
+#include "filtering/TSSideViewItem.h"
 #include "persistence/VendorDatabaseUpdate.h"
 #include "scanning/ScanCycle.h"
 #include "shell/MainWindow.h"
@@ -64,6 +65,9 @@ private:
     void showNoInterfaceAlert();
     void checkVendorsDatabaseLater();
     void configureNetworksView();
+    void configureSideView();
+    void sideViewSelectionDidChange(const std::optional<TSSideViewItem>& item);
+    void userDidClickSourceList();
     QString placeholderText() const;
     bool windowShouldClose();
     void windowWillClose();
@@ -80,6 +84,7 @@ private:
     std::unique_ptr<RepeatingTimer> m_vendorsCheck; ///< until its first call
     bool m_windowDidShowFirstTime = false;
     std::int64_t m_signalStrengthThreshold = 0;
+    SideViewSelection m_sideViewSelection;
     bool m_didTerminate = false;
 };
 

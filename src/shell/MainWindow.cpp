@@ -9,6 +9,7 @@
 #include "shell/GlyphIcon.h"
 #include "shell/IntervalMenu.h"
 #include "shell/TSNetworksView.h"
+#include "shell/TSSideView.h"
 
 #include <QAction>
 #include <QActionGroup>
@@ -19,8 +20,11 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QScreen>
+#include <QSplitter>
 #include <QStatusBar>
 #include <QToolBar>
+
+#include <algorithm>
 
 namespace tessara {
 
@@ -59,9 +63,15 @@ std::optional<std::int64_t> thresholdOf(const QKeyEvent& event)
 } // namespace
 
 MainWindow::MainWindow()
-    : m_networksView(new TSNetworksView(this))
+    : m_splitter(new QSplitter)
+    , m_sideView(new TSSideView)
+    , m_networksView(new TSNetworksView)
 {
-    setCentralWidget(m_networksView);
+    m_splitter->addWidget(m_sideView);
+    m_splitter->addWidget(m_networksView);
+    m_splitter->setStretchFactor(1, 1); // the table takes the room there is
+    m_splitter->setCollapsible(1, false);
+    setCentralWidget(m_splitter);
     setContextMenuPolicy(Qt::NoContextMenu); // it would offer to hide the toolbar
     makeActions();
     makeQuickFilter();
@@ -168,6 +178,12 @@ void MainWindow::makeMenus()
         m_filter->selectAll();
     });
     filter->setShortcut(QKeySequence::Find);
+    m_showSideView = view.addAction(localized("&Side View"));
+    m_showSideView->setCheckable(true);
+    m_showSideView->setShortcut(QKeySequence(Qt::Key_F9));
+    connect(m_showSideView, &QAction::triggered, this, &MainWindow::setSideViewShown);
+    connect(m_splitter, &QSplitter::splitterMoved, this,
+            [this] { m_showSideView->setChecked(m_splitter->sizes().front() > 0); });
     view.addSeparator();
     view.addActions(m_quickFilterItems->actions());
     view.addSeparator();
@@ -244,6 +260,25 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event)
         }
     }
     return QMainWindow::eventFilter(watched, event);
+}
+
+QByteArray MainWindow::splitterState() const
+{
+    return m_splitter->saveState();
+}
+
+void MainWindow::restoreSplitter(const QByteArray& state)
+{
+    if (!m_splitter->restoreState(state))
+        setSideViewShown(false);
+    m_showSideView->setChecked(m_splitter->sizes().front() > 0);
+}
+
+void MainWindow::setSideViewShown(bool shown)
+{
+    const int side = shown ? m_sideView->sizeHint().width() : 0;
+    m_splitter->setSizes({side, std::max(m_splitter->width() - side, 1)});
+    m_showSideView->setChecked(shown);
 }
 
 void MainWindow::takeFirstRunFrame()

@@ -10,6 +10,7 @@
 class QActionGroup;
 class QComboBox;
 class QLabel;
+class QSplitter;
 
 namespace tessara {
 
@@ -18,6 +19,7 @@ class ElidedLabel;
 class FilterField;
 class IntervalMenu;
 class TSNetworksView;
+class TSSideView;
 
 /// The main window: toolbar, menus, networks table and footer. It shows what it is given and
 /// tells what the user asks for; it decides nothing.
@@ -28,6 +30,7 @@ public:
     MainWindow();
 
     TSNetworksView& networksView() { return *m_networksView; }
+    TSSideView& sideView() { return *m_sideView; }
     ActivityIndicator& activityIndicator() { return *m_activityIndicator; }
     IntervalMenu& intervalMenu() { return *m_intervalMenu; }
 
@@ -42,6 +45,10 @@ public:
     void setThresholdFooter(const std::optional<QString>& text);
     /// Shows which quick filter is chosen.
     void setQuickFilter(QuickFilter filter);
+
+    /// The place of the bar between side view and table, to be stored; collapsed in a fresh window.
+    QByteArray splitterState() const;
+    void restoreSplitter(const QByteArray& state);
 
     /// Takes a part of the size of a fresh window, in the middle of the screen.
     void takeFirstRunFrame();
@@ -64,11 +71,15 @@ private:
     void makeQuickFilter();
     void makeFilter();
     void makeFooter();
+    void setSideViewShown(bool shown);
     void showAbout();
 
+    QSplitter* m_splitter;
+    TSSideView* m_sideView;
     TSNetworksView* m_networksView;
     QAction* m_scan = nullptr;
     QAction* m_stop = nullptr;
+    QAction* m_showSideView = nullptr;
     IntervalMenu* m_intervalMenu = nullptr;
     ActivityIndicator* m_activityIndicator = nullptr;
     ElidedLabel* m_info = nullptr;

@@ -5,6 +5,7 @@
 #include "shell/FilterField.h"
 #include "shell/IntervalMenu.h"
 #include "shell/TSNetworksView.h"
+#include "shell/TSSideView.h"
 #include "support/ManualClock.h"
 
 #include <QAction>
@@ -222,6 +223,14 @@ TEST_F(AppDelegateTest, NarrowsTheListByLineKindAndKeys)
     QTest::keyClick(&delegate->window(), Qt::Key_Escape);
     EXPECT_THAT(names(), ElementsAre("Home", "Work"));
 
+    TSSideView& sideView = delegate->window().sideView();
+    const QModelIndex byName = sideView.model()->index(2, 0);
+    sideView.setCurrentIndex(sideView.model()->index(1, 0, byName));
+    EXPECT_THAT(names(), ElementsAre("Work"));
+    EXPECT_EQ(sideView.model()->rowCount(byName), 2) << "it counts what it hides";
+    QTest::mouseClick(sideView.viewport(), Qt::LeftButton, {},
+                      sideView.visualRect(sideView.model()->index(0, 0)).center());
+    EXPECT_THAT(names(), ElementsAre("Home", "Work"));
     Q_EMIT delegate->window().findChild<QComboBox*>()->activated(2); // secure networks
     EXPECT_THAT(names(), ElementsAre());
     EXPECT_EQ(Defaults::standard().integerForKey(DefaultKey::QuickFilterSelectedItem), 2);
