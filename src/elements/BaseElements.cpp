@@ -83,7 +83,7 @@ std::span<const Field> parseTIM(ElementDecoder& e)
     return e.fields({
         entryWithName("DTIM Count", e.decimal(e.u8(0))),
         entryWithName("DTIM Period", e.decimal(e.u8(1))),
-        entryWithName("Bitmap Control", e.hex(control, 2), {}, e.bitRows(kBitmapControl, control)),
+        e.bitsEntry("Bitmap Control", kBitmapControl, control),
         entryWithName("Partial Virtual Bitmap", e.hexadecimalString(e.from(3))),
     });
 }
@@ -250,7 +250,7 @@ std::span<const Field> parseERPInfo(ElementDecoder& e)
     if (flags & kBarkerPreambleMode)
         summary.add("Barker Preamble Mode Set");
     e.setSummary(summary.text());
-    return e.fields({entryWithName("ERP Flags", e.hex(flags, 2), {}, e.bitRows(kERPFlags, flags))});
+    return e.fields({e.bitsEntry("ERP Flags", kERPFlags, flags)});
 }
 
 } // namespace tessara

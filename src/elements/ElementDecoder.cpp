@@ -57,6 +57,13 @@ std::string_view ElementDecoder::vendorNote(Bytes oui)
     return vendor ? concatenated({"(", vendor->toStdString(), ")"}) : "((null))";
 }
 
+Field ElementDecoder::bitsEntry(std::string_view name, const BitFields& bitFields,
+                                std::uint32_t value)
+{
+    return entryWithName(name, hex(value, static_cast<int>(bitFields.width) / 4), {},
+                         bitRows(bitFields, value));
+}
+
 BitItem& ElementDecoder::bitItem()
 {
     return make<BitItem>();

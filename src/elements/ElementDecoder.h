@@ -61,6 +61,8 @@ public:
     {
         return {bitFields, value};
     }
+    /// The value in hexadecimal, with as many digits as it has room for, and its bits below.
+    Field bitsEntry(std::string_view name, const BitFields& bitFields, std::uint32_t value);
     /// Makes a row of bits and keeps its texts.
     BitItem& bitItem();
 

@@ -113,8 +113,7 @@ std::span<const Field> parseExtendedCapabities(ElementDecoder& e)
     FieldList& rows = e.list(octets);
     for (std::size_t i = 0; i < octets; ++i) {
         const std::uint8_t octet = e.u8(i);
-        rows.push_back(entryWithName(kOctets[i].name, e.hex(octet, 2), {},
-                                     e.bitRows(kOctets[i].bitFields, octet)));
+        rows.push_back(e.bitsEntry(kOctets[i].name, kOctets[i].bitFields, octet));
     }
     return rows;
 }

@@ -147,19 +147,17 @@ std::span<const Field> parseHTCapability(ElementDecoder& e)
     // Two digits are asked for, though the field has 16 bits, and it is meant so.
     rows.push_back(entryWithName("HT Capabilities Info", e.hex(info, 2), {},
                                  e.bitRows(kHTCapabilitiesInfo, info)));
-    rows.push_back(entryWithName("A-MPDU Parameters", e.hex(parameters, 2), {},
-                                 e.bitRows(kAMPDUParameters, parameters)));
+    rows.push_back(e.bitsEntry("A-MPDU Parameters", kAMPDUParameters, parameters));
     const std::size_t behind = kMCSSet + parseMCSSetIntoArray(e, kMCSSet, false, rows, summary);
 
     const std::uint16_t extended = e.u16(behind);
     const std::uint32_t beamforming = e.u32(behind + 2);
     const std::uint8_t antennas = e.u8(behind + 6);
-    rows.push_back(entryWithName("HT Extended Capabilities", e.hex(extended, 4), {},
-                                 e.bitRows(kHTExtendedCapabilities, extended)));
-    rows.push_back(entryWithName("Transmit Beamforming (TxBF) Capabilities", e.hex(beamforming, 8),
-                                 {}, e.bitRows(kTransmitBeamformingCapabilities, beamforming)));
-    rows.push_back(entryWithName("ASEL (Antenna Selection) Capabilities", e.hex(antennas, 2), {},
-                                 e.bitRows(kASELCapabilities, antennas)));
+    rows.push_back(e.bitsEntry("HT Extended Capabilities", kHTExtendedCapabilities, extended));
+    rows.push_back(e.bitsEntry("Transmit Beamforming (TxBF) Capabilities",
+                               kTransmitBeamformingCapabilities, beamforming));
+    rows.push_back(
+        e.bitsEntry("ASEL (Antenna Selection) Capabilities", kASELCapabilities, antennas));
     e.setSummary(summary.text());
     return rows;
 }
@@ -241,12 +239,9 @@ std::span<const Field> parseHTInfo(ElementDecoder& e)
 
     FieldList& rows = e.list(5);
     rows.push_back(entryWithName("Primary Channel", channel));
-    rows.push_back(entryWithName("HT Information Subset (1 of 3)", e.hex(subset1, 2), {},
-                                 e.bitRows(kHTInformationSubset1, subset1)));
-    rows.push_back(entryWithName("HT Information Subset (2 of 3)", e.hex(subset2, 4), {},
-                                 e.bitRows(kHTInformationSubset2, subset2)));
-    rows.push_back(entryWithName("HT Information Subset (3 of 3)", e.hex(subset3, 4), {},
-                                 e.bitRows(kHTInformationSubset3, subset3)));
+    rows.push_back(e.bitsEntry("HT Information Subset (1 of 3)", kHTInformationSubset1, subset1));
+    rows.push_back(e.bitsEntry("HT Information Subset (2 of 3)", kHTInformationSubset2, subset2));
+    rows.push_back(e.bitsEntry("HT Information Subset (3 of 3)", kHTInformationSubset3, subset3));
     parseMCSSetIntoArray(e, 6, true, rows, summary);
     e.setSummary(summary.text());
     return rows;

@@ -57,8 +57,7 @@ std::span<const Field> parseInterworking(ElementDecoder& e)
     JoinedText summary(e, ", ");
 
     const std::uint8_t options = e.u8(0);
-    rows.push_back(entryWithName("Access Network Options", e.hex(options, 2), {},
-                                 e.bitRows(kAccessNetworkOptions, options)));
+    rows.push_back(e.bitsEntry("Access Network Options", kAccessNetworkOptions, options));
     summary.add(textFor(kAccessNetworkTypes, options & kNetworkType).value_or(kNullText));
     if (options & kInternet)
         summary.add("Provides Internet Connectivity");

@@ -25,8 +25,7 @@ std::span<const Field> parseMobilityDomain(ElementDecoder& e)
     e.setSummary(policy & kOverTheDS ? kOverTheDSText : kOverTheAirText);
     return e.fields({
         entryWithName("MDID (Mobility Domain Identifier)", e.hex(e.u16(0), 4)),
-        entryWithName("FT Capability and Policy", e.hex(policy, 2), {},
-                      e.bitRows(kFTCapabilityAndPolicy, policy)),
+        e.bitsEntry("FT Capability and Policy", kFTCapabilityAndPolicy, policy),
     });
 }
 

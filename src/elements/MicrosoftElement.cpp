@@ -40,8 +40,7 @@ std::span<const Field> parseWPA(ElementDecoder& e)
     });
 }
 
-// WMM (Wi-Fi Alliance, WMM Specification 1.2, 2.2)
-// -------------------------------------------------
+// WMM (Wi-Fi Alliance, WMM 1.2, 2.2) --------------------------------------------------------------
 
 constexpr std::uint8_t kInformation = 0;
 constexpr std::uint8_t kParameter = 1;
@@ -73,13 +72,12 @@ Field accessCategory(ElementDecoder& e, const ValueText& category, std::size_t o
 {
     const std::uint8_t aci = e.u8(offset);
     const std::uint8_t ecw = e.u8(offset + 1);
-    return entryWithName(
-        e.concatenated({"Access Category - ", category.text}), {}, {},
-        e.fields({
-            entryWithName("ACI / AIFSN Field", e.hex(aci, 2), {}, e.bitRows(kACIAndAIFSN, aci)),
-            entryWithName("ECW", e.hex(ecw, 2), {}, e.bitRows(kECW, ecw)),
-            entryWithName("TXOP Limit", e.decimal(e.u16(offset + 2))),
-        }));
+    return entryWithName(e.concatenated({"Access Category - ", category.text}), {}, {},
+                         e.fields({
+                             e.bitsEntry("ACI / AIFSN Field", kACIAndAIFSN, aci),
+                             e.bitsEntry("ECW", kECW, ecw),
+                             entryWithName("TXOP Limit", e.decimal(e.u16(offset + 2))),
+                         }));
 }
 
 std::span<const Field> parseWMM(ElementDecoder& e)
@@ -95,8 +93,7 @@ std::span<const Field> parseWMM(ElementDecoder& e)
     rows.push_back(entryWithName("WMM Subtype", textFor(kSubtypes, subtype)));
     rows.push_back(entryWithName("WMM Version", e.decimal(e.u8(5))));
     if (subtype == kInformation || subtype == kParameter)
-        rows.push_back(
-            entryWithName("WMM QoS Info", e.hex(info, 2), {}, e.bitRows(kQoSInfo, info)));
+        rows.push_back(e.bitsEntry("WMM QoS Info", kQoSInfo, info));
     if (subtype == kParameter) {
         rows.push_back(entryWithName("Reserved", e.hex(e.u8(7), 2)));
         for (const ValueText& category : kAccessCategories) {

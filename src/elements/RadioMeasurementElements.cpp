@@ -70,8 +70,7 @@ std::span<const Field> parseRMEnabledCapability(ElementDecoder& e)
     JoinedText enabled(e, ", ");
     for (std::size_t i = 0; i < std::size(kOctets); ++i) {
         const std::uint8_t octet = e.u8(i);
-        rows.push_back(entryWithName(kOctets[i].name, e.hex(octet, 2), {},
-                                     e.bitRows(kOctets[i].bitFields, octet)));
+        rows.push_back(e.bitsEntry(kOctets[i].name, kOctets[i].bitFields, octet));
         forEachSubfield(rows.back(), [&enabled](const Field& item) {
             if (item.fieldNotes == "Enabled")
                 enabled.add(*item.fieldValue);

@@ -51,8 +51,7 @@ std::span<const Field> parseRSNIE(ElementDecoder& e)
         pairwise.list,
         auth.count,
         auth.list,
-        entryWithName("RSN Capabilities", e.hex(capabilities, 4), {},
-                      e.bitRows(kRSNCapabilities, capabilities)),
+        e.bitsEntry("RSN Capabilities", kRSNCapabilities, capabilities),
     });
 }
 

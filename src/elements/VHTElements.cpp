@@ -137,8 +137,7 @@ std::span<const Field> parseVHTCapability(ElementDecoder& e)
     summary.add(e.concatenated({e.decimal(streamsOf(e.u16(kRxMap))), " Spatial Streams"}));
     e.setSummary(summary.text());
     return e.fields({
-        entryWithName("VHT Capabilities Info", e.hex(info, 8), {},
-                      e.bitRows(kVHTCapabilitiesInfo, info)),
+        e.bitsEntry("VHT Capabilities Info", kVHTCapabilitiesInfo, info),
         entryWithName("VHT Supported MCS Set", {}, {},
                       e.fields({
                           mcsMap(e, "Rx MCS Map", kRxMap, kRxMCSMap, kRxHighestRate),
@@ -192,7 +191,7 @@ std::span<const Field> parseVHTOperation(ElementDecoder& e)
                           entryWithName("Channel Center Frequency 0", centers[0]),
                           entryWithName("Channel Center Frequency 1", centers[1]),
                       })),
-        entryWithName("VHT Basic MCS Set", e.hex(map, 4), {}, e.bitRows(kVHTBasicMCSSet, map)),
+        e.bitsEntry("VHT Basic MCS Set", kVHTBasicMCSSet, map),
     });
 }
 

@@ -4,7 +4,7 @@
 
 namespace tessara {
 
-/// Wi-Fi Protected Setup (Wi-Fi Simple Configuration Technical Specification 2.0.7, 12): the rows
+/// Wi-Fi Protected Setup (Wi-Fi Alliance, Wi-Fi Simple Configuration 2.0.7, 12): the rows
 /// behind those of the vendor; sets the summary.
 std::span<const Field> parseWPS(ElementDecoder& e);
 
