@@ -29,6 +29,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const auto bytes =
         QByteArray::fromRawData(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size));
     QString error;
+    if (bytes.startsWith('I') && size > 4) { // the compact form, its checksum taken as right
+        const std::size_t entries = data[1] | data[2] << 8 | data[3] << 16;
+        if (const auto table = VendorTable::fromBytes(bytes.sliced(4), entries)) {
+            for (const char16_t* bssid : {u"00:15:6D:01:02:03", u"7A:15:6D", u"00:00:00"})
+                vendorOf(*table, bssid);
+        }
+        return 0;
+    }
     const auto list = propertyListOf(bytes, error);
     const auto table = list ? VendorTable::fromPropertyList(*list, error) : std::nullopt;
     if (table) {

@@ -1,4 +1,5 @@
 #include "persistence/VendorDatabaseFile.h"
+#include "persistence/VendorIndex.h"
 #include "persistence/VendorLookup.h"
 #include "persistence/VendorsArchive.h"
 
@@ -29,7 +30,7 @@ const QString& databasePath()
 VendorTable table()
 {
     QString error;
-    return readVendorDatabase(databasePath(), error).value_or(VendorTable());
+    return readVendorDatabase(databasePath(), {}, error).value_or(VendorTable());
 }
 
 /// Bytes of heap in use.
@@ -45,6 +46,19 @@ void load(benchmark::State& state)
         benchmark::DoNotOptimize(table());
 }
 BENCHMARK(load)->Unit(benchmark::kMillisecond);
+
+/// The same from the compact form, as at every start but the first after an installation.
+void loadIndex(benchmark::State& state)
+{
+    QString error;
+    const QString index = databasePath() + QStringLiteral(".index");
+    if (!readVendorDatabase(databasePath(), index, error) ||
+        !readVendorIndex(index, FileVersion::of(databasePath())))
+        state.SkipWithError("there is no index");
+    for (auto _ : state)
+        benchmark::DoNotOptimize(readVendorDatabase(databasePath(), index, error));
+}
+BENCHMARK(loadIndex)->Unit(benchmark::kMillisecond);
 
 void install(benchmark::State& state)
 {

@@ -54,6 +54,8 @@ TSVendorDatabaseHelper::Paths TSVendorDatabaseHelper::Paths::standard()
                     QLatin1String("/vendors.plist"),
         .seed = resourcePath(QLatin1String("vendors.plist.zip")),
         .urls = resourcePath(QLatin1String("urls.plist")),
+        .index = QStandardPaths::writableLocation(QStandardPaths::CacheLocation) +
+                 QLatin1String("/vendors.index"),
     };
 }
 
@@ -109,12 +111,11 @@ std::shared_ptr<const VendorTable> TSVendorDatabaseHelper::database() const
     if (m_database)
         return m_database;
     // Each look-up tries again, but a file that was of no use is not read before it has changed.
-    const QFileInfo info(m_paths.database);
-    const FileVersion version{info.lastModified(), info.size()};
+    const FileVersion version = FileVersion::of(m_paths.database);
     if (!m_error.isEmpty() && version == m_unreadable)
         return nullptr;
     QString error;
-    auto table = readVendorDatabase(m_paths.database, error);
+    auto table = readVendorDatabase(m_paths.database, m_paths.index, error);
     if (table) {
         m_database = std::make_shared<const VendorTable>(*std::move(table));
     } else {
@@ -154,8 +155,11 @@ bool TSVendorDatabaseHelper::expandDatabase()
 
 bool TSVendorDatabaseHelper::expandDatabaseUsingFile(const QString& archivePath, bool overwrite)
 {
-    return installVendorDatabase(archivePath, m_paths.database,
-                                 overwrite || isFirstRunOfThisVersion());
+    const bool isInstalled = installVendorDatabase(archivePath, m_paths.database,
+                                                   overwrite || isFirstRunOfThisVersion());
+    if (!m_paths.index.isEmpty())
+        QFile::remove(m_paths.index); // a new list may be of the old one's date and size
+    return isInstalled;
 }
 
 } // namespace tessara

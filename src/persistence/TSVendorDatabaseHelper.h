@@ -2,9 +2,9 @@
 
 #include "foundation/Directories.h"
 #include "foundation/WorkerThreads.h"
+#include "persistence/VendorIndex.h"
 #include "persistence/VendorTable.h"
 
-#include <QDateTime>
 #include <QHash>
 #include <QString>
 
@@ -23,6 +23,7 @@ public:
         QString database;  ///< the user's vendors.plist
         QString seed = {}; ///< the vendors.plist.zip that the program is installed with
         QString urls = {}; ///< a property list from a vendor's name to the address of its web site
+        QString index = {}; ///< where the compact form of the database is kept; none if empty
 
         /// Those of the user who runs the program.
         static Paths standard();
@@ -61,19 +62,12 @@ public:
     void dropDatabase();
 
 private:
-    /// By what a file that could not be read is told from one that has been replaced since.
-    struct FileVersion {
-        QDateTime modified;
-        qint64 size = 0;
-        bool operator==(const FileVersion&) const = default;
-    };
-
     std::shared_ptr<const VendorTable> database() const;
 
     const Paths m_paths;
     mutable std::mutex m_lock; ///< of the members below
     mutable std::shared_ptr<const VendorTable> m_database;
-    mutable FileVersion m_unreadable;
+    mutable FileVersion m_unreadable; ///< the file that was of no use
     mutable QString m_error;
     mutable std::optional<QHash<QString, QString>> m_urls;
     WorkerThreads m_workers; // last: joined while all of the above still stands

@@ -2,6 +2,7 @@
 
 #include "foundation/Logging.h"
 #include "persistence/PropertyList.h"
+#include "persistence/VendorIndex.h"
 #include "persistence/VendorsArchive.h"
 
 #include <QDir>
@@ -45,15 +46,25 @@ void move(const QString& from, const QString& to)
 
 } // namespace
 
-std::optional<VendorTable> readVendorDatabase(const QString& path, QString& error)
+std::optional<VendorTable> readVendorDatabase(const QString& path, const QString& indexPath,
+                                              QString& error)
 {
+    const FileVersion version = FileVersion::of(path); // before it is read: it may be replaced
+    if (!indexPath.isEmpty()) {
+        if (auto table = readVendorIndex(indexPath, version))
+            return table;
+    }
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
         error = file.errorString();
         return std::nullopt;
     }
     // One byte more shows that the list is too long.
-    return VendorTable::fromPropertyList(file.read(kLongestPropertyList + 1), error);
+    auto table = VendorTable::fromPropertyList(file.read(kLongestPropertyList + 1), error);
+    if (table && !indexPath.isEmpty() && !writeVendorIndex(indexPath, version, *table))
+        qCInfo(lcPersistence).noquote()
+            << "The index of vendors could not be written:" << indexPath;
+    return table;
 }
 
 bool installVendorDatabase(const QString& archivePath, const QString& path, bool replace)

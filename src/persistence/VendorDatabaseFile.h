@@ -8,8 +8,12 @@
 
 namespace tessara {
 
-/// Reads a vendors.plist. @return none if it cannot be used; `error` then says why
-std::optional<VendorTable> readVendorDatabase(const QString& path, QString& error);
+/// Reads a vendors.plist.
+/// @param indexPath its compact form, read in its place where it is of this list, else written for
+///        the next time; empty for none
+/// @return none if it cannot be used; `error` then says why
+std::optional<VendorTable> readVendorDatabase(const QString& path, const QString& indexPath,
+                                              QString& error);
 
 /// Unpacks the archive to `path`, in a folder that is made if need be, unless there is a file.
 /// With `replace` that file gives way; it stays where the archive is of no use.

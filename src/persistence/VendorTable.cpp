@@ -4,6 +4,7 @@
 #include "persistence/PropertyList.h"
 
 #include <algorithm>
+#include <cstring>
 
 namespace tessara {
 
@@ -86,6 +87,33 @@ std::optional<VendorTable> VendorTable::fromPropertyList(const QByteArray& bytes
         std::ranges::sort(table.m_entries, {}, &Entry::identifier);
     table.m_entries.shrink_to_fit();
     table.m_names.squeeze();
+    return table;
+}
+
+void VendorTable::appendTo(QByteArray& bytes) const
+{
+    bytes.append(reinterpret_cast<const char*>(m_entries.data()),
+                 static_cast<qsizetype>(m_entries.size()) * kEntryLength);
+    bytes.append(m_names);
+}
+
+std::optional<VendorTable> VendorTable::fromBytes(QByteArrayView bytes, std::size_t entries)
+{
+    if (entries == 0 || entries > static_cast<std::size_t>(bytes.size() / kEntryLength))
+        return std::nullopt;
+    VendorTable table;
+    table.m_entries.resize(entries);
+    const auto length = static_cast<qsizetype>(entries) * kEntryLength;
+    std::memcpy(table.m_entries.data(), bytes.data(), std::size_t(length));
+    table.m_names = bytes.sliced(length).toByteArray();
+    // What a look-up relies on: the order, and that a name begins inside and comes to an end.
+    const auto beginsInside = [&](const Entry& entry) {
+        return entry.name < std::uint32_t(table.m_names.size());
+    };
+    if (!table.m_names.endsWith('\0') ||
+        !std::ranges::is_sorted(table.m_entries, {}, &Entry::identifier) ||
+        !std::ranges::all_of(table.m_entries, beginsInside))
+        return std::nullopt;
     return table;
 }
 

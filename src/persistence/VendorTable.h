@@ -19,6 +19,11 @@ public:
     /// @return none if it is no such list, or names nobody; `error` then says why
     static std::optional<VendorTable> fromPropertyList(const QByteArray& bytes, QString& error);
 
+    /// Reads what `appendTo` wrote of a table of so many entries. @return none if it is damaged
+    static std::optional<VendorTable> fromBytes(QByteArrayView bytes, std::size_t entries);
+    /// Appends the table in a form that is read at the cost of a copy; it is for this machine.
+    void appendTo(QByteArray& bytes) const;
+
     /// The owner of an identifier of exactly the form "00:15:6D", upper case, in UTF-8; empty if
     /// there is none. Valid as long as the table.
     QByteArrayView nameFor(QStringView identifier) const;
@@ -30,6 +35,8 @@ private:
         std::uint32_t identifier;
         std::uint32_t name; ///< where it begins in `m_names`
     };
+
+    static constexpr qsizetype kEntryLength = sizeof(Entry);
 
     std::vector<Entry> m_entries; ///< in the order of identifiers
     QByteArray m_names;           ///< one after the other, each with a zero byte after it

@@ -193,6 +193,41 @@ TEST_F(TSVendorDatabaseHelperTest, AnswersFromSeveralThreadsWhileItLoads)
     }
 }
 
+TEST_F(TSVendorDatabaseHelperTest, ReadsTheIndexInPlaceOfTheListThatItWasMadeFrom)
+{
+    TSVendorDatabaseHelper::Paths indexed = paths;
+    indexed.index = folder.filePath(QStringLiteral("cache/vendors.index"));
+    const auto vendorAtNextStart = [&] {
+        return TSVendorDatabaseHelper(indexed).stringForVendor(kBSSID).value_or(QString());
+    };
+    QDir().mkpath(QFileInfo(paths.database).path());
+    writeFile(paths.database, kOld, kDate);
+    ASSERT_EQ(vendorAtNextStart(), QStringLiteral("Old"));
+
+    // The same date and size: only the index can say "Old" now.
+    writeFile(paths.database, kNew, kDate);
+    EXPECT_EQ(vendorAtNextStart(), QStringLiteral("Old"));
+
+    // An index that is damaged anywhere is made anew from the list.
+    const QByteArray index = contentsOf(indexed.index);
+    for (qsizetype i = 0; i < index.size(); ++i) {
+        QByteArray damaged = index;
+        damaged[i] = char(damaged[i] ^ 0x10);
+        for (const QByteArray& bytes : {damaged, index.first(i)}) {
+            writeFile(indexed.index, bytes);
+            ASSERT_EQ(vendorAtNextStart(), QStringLiteral("New")) << i;
+            ASSERT_EQ(contentsOf(indexed.index).size(), index.size());
+        }
+    }
+
+    // A list of another date, and an installed one of the same date and size.
+    writeFile(paths.database, kOld, kDate.addSecs(1));
+    EXPECT_EQ(vendorAtNextStart(), QStringLiteral("Old"));
+    writeArchive(paths.seed, {{"vendors.plist", kNew}}, kDate.addSecs(1));
+    EXPECT_TRUE(TSVendorDatabaseHelper(indexed).expandDatabaseUsingFile(paths.seed, true));
+    EXPECT_EQ(vendorAtNextStart(), QStringLiteral("New"));
+}
+
 TEST_F(TSVendorDatabaseHelperTest, TellsWebSitesByName)
 {
     TSVendorDatabaseHelper helper(paths);
