@@ -14,8 +14,10 @@ void decodeToText(benchmark::State& state)
     for (auto _ : state) {
         bytes = 0;
         for (const ScanDictionary& beacon : beacons()) {
+            DumpBuffer text;
             for (const TSInfoElement& element : informationElements(*beacon.informationElementData))
-                bytes += element.ieDump().size();
+                element.appendDump(text);
+            bytes += text.text().size();
         }
     }
     const auto count = static_cast<double>(beacons().size());

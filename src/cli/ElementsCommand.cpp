@@ -44,17 +44,16 @@ std::string harmlessText(std::string_view text)
 
 /// The lines of a row and those below it, as a dump has them, but for texts that would make lines
 /// of their own.
-void composeHarmlessField(const Field& field, const std::string& indent, DumpBuffer& lines)
+void composeHarmlessField(const Field& field, std::size_t depth, DumpBuffer& lines)
 {
     const std::string value = harmlessText(*field.fieldValue);
     Field row = field;
     if (field.fieldValue)
         row.fieldValue = std::string_view(value);
     row.fieldSubfields.reset();
-    composeField(row, indent, lines);
-    forEachSubfield(field, [&](const Field& subfield) {
-        composeHarmlessField(subfield, indent + "    ", lines);
-    });
+    composeField(row, depth, lines);
+    forEachSubfield(
+        field, [&](const Field& subfield) { composeHarmlessField(subfield, depth + 1, lines); });
 }
 
 void printElement(QTextStream& out, const TSInfoElement& element)
@@ -64,7 +63,7 @@ void printElement(QTextStream& out, const TSInfoElement& element)
         out << " - " << QString::fromStdString(harmlessText(element.ieSummary()));
     DumpBuffer lines;
     for (const Field& field : element.fields())
-        composeHarmlessField(field, "    ", lines);
+        composeHarmlessField(field, 1, lines);
     out << textFromUtf8(lines.text()).value_or(QString()) << '\n';
 }
 

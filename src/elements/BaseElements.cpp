@@ -47,13 +47,15 @@ std::span<const Field> parseSuppRates(ElementDecoder& e)
     for (const std::uint8_t byte : e.from(0)) {
         const bool isBasic = (byte & kBasicRate) != 0;
         const int rate = byte & kRate;
-        const std::string_view number =
-            e.concatenated({e.decimal(rate / 2), rate % 2 == 1 ? ".5" : ""});
+        const std::string_view whole = e.decimal(rate / 2);
+        const std::string_view number = rate % 2 == 1 ? e.concatenated({whole, ".5"}) : whole;
         rows.push_back(
             entryWithName("Supported Rate", number,
                           e.concatenated({"Mbps", textFor(kRateClasses, rate).value_or(""),
                                           isBasic ? " (BSS Basic Rate)" : ""})));
-        rates.add(e.concatenated({number, isBasic ? "(B)" : ""}));
+        rates.add(number);
+        if (isBasic)
+            rates.extend("(B)");
     }
     e.setSummary(e.concatenated({rates.text(), " Mbps"}));
     return rows;

@@ -40,7 +40,7 @@ char* putHex(char* out, std::uint32_t number, BitWidth width)
 } // namespace
 
 std::string_view stringForBitMask(BitWidth width, std::uint32_t mask, std::uint32_t value,
-                                  std::array<char, 39>& room)
+                                  std::array<char, kLongestBits>& room)
 {
     char* out = room.data();
     for (int shift = static_cast<int>(width) - 4; shift >= 0; shift -= 4) {

@@ -7,11 +7,15 @@
 
 namespace tessara {
 
+/// The longest texts of a row of bits, in bytes: its bits, and a number with its text.
+inline constexpr std::size_t kLongestBits = 39;
+inline constexpr std::size_t kLongestBitNotes = kLongestValueText + 16;
+
 /// The bits of a value under a mask, most significant first, with a blank after each four: "."
 /// where the mask has none.
 /// @param room takes the text
 std::string_view stringForBitMask(BitWidth width, std::uint32_t mask, std::uint32_t value,
-                                  std::array<char, 39>& room);
+                                  std::array<char, kLongestBits>& room);
 
 /// Makes the row of some bits of a value. The row's texts live in this.
 class BitItem {
@@ -34,8 +38,8 @@ public:
 private:
     std::string_view textAndNumber(BitWidth width, std::string_view text, std::uint32_t number);
 
-    std::array<char, 39> m_bits;
-    std::array<char, kLongestValueText + 16> m_notes;
+    std::array<char, kLongestBits> m_bits;
+    std::array<char, kLongestBitNotes> m_notes;
 };
 
 } // namespace tessara

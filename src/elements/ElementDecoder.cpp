@@ -9,26 +9,19 @@
 
 namespace tessara {
 
-namespace {
-
-/// The longest content that the length byte can tell (IEEE Std 802.11-2020, 9.4.2.1).
-constexpr std::size_t kLongestContent = 255;
-
-/// The bytes, and zeros for those that they lack of the longest content.
-Bytes padded(FieldArena& arena, Bytes value)
+void ElementDecoder::begin(Bytes value)
 {
-    const std::span<char> copy = arena.allocateText(std::max(value.size(), kLongestContent));
-    const auto end = std::ranges::copy(value, copy.begin()).out;
-    std::fill(end, copy.end(), 0);
-    return {reinterpret_cast<const std::uint8_t*>(copy.data()), copy.size()};
+    m_length = value.size();
+    m_value = ByteReader(value);
+    m_paddedValue = {};
+    m_summary = "";
 }
 
-} // namespace
-
-ElementDecoder::ElementDecoder(Bytes value)
-    : m_length(value.size())
-    , m_value(padded(*this, value))
+ByteReader ElementDecoder::paddedValue()
 {
+    if (m_paddedValue.empty())
+        m_paddedValue = zeroPadded(from(0), std::max(m_length, kLongestContent));
+    return ByteReader(m_paddedValue);
 }
 
 std::optional<std::string_view> ElementDecoder::utf8(Bytes bytes)

@@ -5,15 +5,22 @@
 
 namespace tessara {
 
-/// What the decoder of one element works with: it reads the element's bytes, makes rows of them
-/// and sets the summary. The rows live as long as this.
+/// The longest content that the length byte can tell (IEEE Std 802.11-2020, 9.4.2.1).
+inline constexpr std::size_t kLongestContent = 255;
+
+/// What the decoder of an element works with: it reads the element's bytes, makes rows of them and
+/// sets the summary. One of these serves the elements of a run one after the other; all their rows
+/// live as long as this.
 ///
 /// Offsets count from the first byte after the length. Numbers are little-endian unless they say
 /// otherwise. Decoders believe the offsets and the counts they find: an element is shown as if
 /// the bytes it lacks were there, and zero, up to the longest element that can be.
 class ElementDecoder final : public FieldArena {
 public:
-    explicit ElementDecoder(Bytes value);
+    using FieldArena::FieldArena;
+
+    /// Turns to an element. @param value stays where it is as long as this
+    void begin(Bytes value);
 
     // Bytes -----------------------------------------------------------------------------------
 
@@ -33,9 +40,10 @@ public:
         return static_cast<std::uint16_t>(u8(offset) << 8 | u8(offset + 1));
     }
     /// So many bytes, also where the element has ended.
-    Bytes bytes(std::size_t offset, std::size_t count) const
+    Bytes bytes(std::size_t offset, std::size_t count)
     {
-        return m_value.slice(offset, count);
+        return offset + count <= m_length ? m_value.slice(offset, count)
+                                          : paddedValue().slice(offset, count);
     }
     /// The bytes up to the end of the element; none behind it.
     Bytes from(std::size_t offset) const
@@ -70,8 +78,12 @@ public:
     void setSummary(std::string_view summary) { m_summary = summary; }
 
 private:
-    std::size_t m_length;
-    ByteReader m_value; ///< of a copy of the element with the missing bytes behind it
+    /// The element with zeros for the bytes that it lacks of the longest content.
+    ByteReader paddedValue();
+
+    std::size_t m_length = 0;
+    ByteReader m_value{Bytes()};
+    Bytes m_paddedValue; ///< empty until it is asked for
     std::string_view m_summary = "";
 };
 

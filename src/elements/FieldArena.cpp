@@ -1,17 +1,23 @@
 #include "elements/FieldArena.h"
 
+#include "elements/TextPieces.h"
+
 #include <fmt/format.h>
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <charconv>
 #include <memory>
 
 namespace tessara {
 
-std::span<char> FieldArena::allocateText(std::size_t size)
+void FieldArena::makeRoomForTexts(std::size_t size)
 {
-    return {static_cast<char*>(m_memory.allocate(size, 1)), size};
+    constexpr std::size_t kBlock = 1024; // bytes
+    const std::size_t room = std::max(size, kBlock);
+    m_text = static_cast<char*>(m_memory.allocate(room, 1));
+    m_textEnd = m_text + room;
 }
 
 std::string_view FieldArena::keep(std::string_view text)
@@ -19,16 +25,23 @@ std::string_view FieldArena::keep(std::string_view text)
     return concatenated({text});
 }
 
+Bytes FieldArena::zeroPadded(Bytes bytes, std::size_t size)
+{
+    auto* copy = static_cast<std::uint8_t*>(m_memory.allocate(size, 1));
+    std::fill(std::ranges::copy(bytes, copy).out, copy + size, 0);
+    return {copy, size};
+}
+
 std::string_view FieldArena::concatenated(std::initializer_list<std::string_view> parts)
 {
     std::size_t size = 0;
     for (const std::string_view part : parts)
         size += part.size();
-    const std::span<char> text = allocateText(size);
-    auto out = text.begin();
+    char* const text = allocateText(size);
+    char* out = text;
     for (const std::string_view part : parts)
-        out = std::ranges::copy(part, out).out;
-    return {text.data(), text.size()};
+        out = put(out, part);
+    return {text, size};
 }
 
 std::string_view FieldArena::formatted(fmt::string_view format, fmt::format_args arguments)
@@ -47,11 +60,14 @@ std::string_view FieldArena::decimal(std::int64_t number)
 
 std::string_view FieldArena::hex(std::uint32_t number, int digits)
 {
-    std::array<char, 8> shortest;
-    const char* end = std::to_chars(shortest.begin(), shortest.end(), number, 16).ptr;
-    const std::string_view zeros = "00000000";
-    const std::size_t missing = std::max<std::ptrdiff_t>(digits - (end - shortest.begin()), 0);
-    return concatenated({"0x", zeros.substr(0, missing), {shortest.begin(), end}});
+    const int needed = (std::bit_width(number) + 3) / 4;
+    const auto size = static_cast<std::size_t>(2 + std::max({digits, needed, 1}));
+    char* const text = allocateText(size);
+    text[0] = '0';
+    text[1] = 'x';
+    for (std::size_t i = size - 1; i >= 2; --i, number >>= 4)
+        text[i] = "0123456789abcdef"[number & 0xf];
+    return {text, size};
 }
 
 std::string_view FieldArena::hexadecimalString(Bytes bytes)
@@ -71,9 +87,9 @@ std::string_view FieldArena::hexadecimalString(Bytes bytes, std::size_t start, s
     if (range.empty())
         return "";
     static constexpr std::string_view kDigits = "0123456789ABCDEF";
-    const std::span<char> text =
-        allocateText(range.size() * 2 + (range.size() - 1) * separator.size());
-    auto out = text.begin();
+    const std::size_t size = range.size() * 2 + (range.size() - 1) * separator.size();
+    char* const text = allocateText(size);
+    char* out = text;
     for (const std::uint8_t& byte : range) {
         if (&byte != range.data()) {
             out = std::ranges::transform(separator, out, [](char c) {
@@ -83,7 +99,7 @@ std::string_view FieldArena::hexadecimalString(Bytes bytes, std::size_t start, s
         *out++ = kDigits[byte >> 4];
         *out++ = kDigits[byte & 0xf];
     }
-    return {text.data(), text.size()};
+    return {text, size};
 }
 
 FieldList& FieldArena::list(std::size_t capacity)

@@ -13,17 +13,28 @@
 
 namespace tessara {
 
-/// Makes the texts and the lists of one element's rows and keeps them: an element has hundreds of
-/// short texts, which come and go together.
+/// Makes the texts and the lists of rows and keeps them: an element has hundreds of short texts,
+/// and those of a beacon's elements come and go together.
 class FieldArena {
 public:
-    FieldArena() = default;
+    /// @param firstBlock the bytes that are taken at first
+    explicit FieldArena(std::size_t firstBlock)
+        : m_memory(firstBlock)
+    {
+    }
     FieldArena(const FieldArena&) = delete;
     FieldArena& operator=(const FieldArena&) = delete;
 
     /// Room for a text; it is to be filled.
-    std::span<char> allocateText(std::size_t size);
+    char* allocateText(std::size_t size)
+    {
+        if (static_cast<std::size_t>(m_textEnd - m_text) < size)
+            makeRoomForTexts(size);
+        return std::exchange(m_text, m_text + size);
+    }
     std::string_view keep(std::string_view text);
+    /// A copy of some bytes, and zeros up to a size.
+    Bytes zeroPadded(Bytes bytes, std::size_t size);
     std::string_view concatenated(std::initializer_list<std::string_view> parts);
 
     template <typename... Arguments>
@@ -63,8 +74,11 @@ public:
 private:
     std::string_view formatted(fmt::string_view format, fmt::format_args arguments);
 
-    std::array<std::byte, 3072> m_firstBlock; ///< enough for most elements
-    std::pmr::monotonic_buffer_resource m_memory{m_firstBlock.data(), m_firstBlock.size()};
+    void makeRoomForTexts(std::size_t size);
+
+    std::pmr::monotonic_buffer_resource m_memory;
+    char* m_text = nullptr; ///< where the next text goes; texts lie close together
+    char* m_textEnd = nullptr;
 };
 
 } // namespace tessara

@@ -1,7 +1,5 @@
 #include "elements/MCSSet.h"
 
-#include "elements/CapitalizedText.h"
-
 #include <algorithm>
 
 namespace tessara {
@@ -21,6 +19,9 @@ constexpr ValueText kStreams[] = {
     {3, "4 spatial streams"},
     {kTxSetNotDefined, "Tx MCS set not defined"},
 };
+
+constexpr std::string_view kStreamsCapitalized[] = {"1 Spatial Stream", "2 Spatial Streams",
+                                                    "3 Spatial Streams", "4 Spatial Streams"};
 
 // Tables 19-27 to 19-30, without the streams.
 constexpr std::string_view kModulations[] = {"(BPSK 1/2)",   "(QPSK 1/2)",   "(QPSK 3/4)",
@@ -149,10 +150,8 @@ std::size_t parseMCSSetIntoArray(ElementDecoder& e, std::size_t offset, bool bas
 
     std::string_view value = basic ? "Basic MCS Set" : "MCS Set";
     if (tier != kNoTier) {
-        const QString streams = QString::fromUtf8(textFor(kStreams, tier).value_or(""));
-        const std::string_view text = e.keep(capitalized(streams).toStdString());
-        summaryItems.add(text);
-        value = e.text("{} ({})", value, text);
+        summaryItems.add(kStreamsCapitalized[tier]);
+        value = e.concatenated({value, " (", kStreamsCapitalized[tier], ")"});
     }
     array.push_back(entryWithName("Rx Supported MCS Set", value, {}, rows));
     return kMCSSetSize;

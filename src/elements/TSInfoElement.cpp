@@ -1,5 +1,6 @@
 #include "elements/TSInfoElement.h"
 
+#include "elements/BitLines.h"
 #include "elements/CapitalizedText.h"
 #include "elements/ElementDecoder.h"
 #include "elements/ElementDecoders.h"
@@ -17,19 +18,11 @@
 
 namespace tessara {
 
-TSInfoElement::TSInfoElement(std::uint8_t id, QByteArray data)
+TSInfoElement::TSInfoElement(std::uint8_t id, Bytes data, std::shared_ptr<ElementDecoder> decoder)
     : m_ieID(id)
-    , m_ieData(std::move(data))
+    , m_ieData(data)
+    , m_decoder(std::move(decoder))
 {
-}
-
-TSInfoElement::TSInfoElement(TSInfoElement&&) noexcept = default;
-TSInfoElement& TSInfoElement::operator=(TSInfoElement&&) noexcept = default;
-TSInfoElement::~TSInfoElement() = default;
-
-Bytes TSInfoElement::bytes() const
-{
-    return {reinterpret_cast<const std::uint8_t*>(m_ieData.constData()), ieLength()};
 }
 
 // Names -------------------------------------------------------------------------------------------
@@ -47,13 +40,18 @@ QString shortVendor(const QString& vendor)
     return vendor.left(end - vendor.begin());
 }
 
+std::string_view nameWithoutVendor(std::uint8_t id)
+{
+    return nameOfElement(id).value_or("Unknown");
+}
+
 } // namespace
 
 std::string TSInfoElement::ieName() const
 {
     if (m_ieID != ElementID::kVendorSpecific)
-        return std::string(nameOfElement(m_ieID).value_or("Unknown"));
-    const auto vendor = vendorOfOUI(bytes());
+        return std::string(nameWithoutVendor(m_ieID));
+    const auto vendor = vendorOfOUI(m_ieData);
     if (!vendor)
         return "Vendor Specific";
     return fmt::format("Vendor Specific ({})", capitalized(shortVendor(*vendor)).toStdString());
@@ -74,10 +72,10 @@ std::string TSInfoElement::ieIdentifier() const
     // An element of Cisco's own identifier takes the vendors' form, with their identifier in it,
     // once it is decoded; it is meant so.
     const bool isVendors =
-        m_ieID == ElementID::kVendorSpecific || (m_ieID == ElementID::kCiscoCCX4 && m_decoder);
-    if (!isVendors || m_ieData.isEmpty())
+        m_ieID == ElementID::kVendorSpecific || (m_ieID == ElementID::kCiscoCCX4 && m_isDecoded);
+    if (!isVendors || m_ieData.empty())
         return fmt::format("id={}", m_ieID);
-    const ByteReader reader(bytes());
+    const ByteReader reader(m_ieData);
     return fmt::format("id={},oui={:02X}-{:02X}-{:02X},type={}", ElementID::kVendorSpecific,
                        reader.u8OrZero(0), reader.u8OrZero(1), reader.u8OrZero(2),
                        reader.u8OrZero(3));
@@ -87,25 +85,26 @@ std::string TSInfoElement::ieIdentifier() const
 
 void TSInfoElement::decode() const
 {
-    if (m_decoder)
+    if (m_isDecoded)
         return;
-    m_decoder = std::make_unique<ElementDecoder>(bytes());
     ElementDecoder& e = *m_decoder;
+    e.begin(m_ieData);
     std::span<const Field> decoded;
-    if (!m_ieData.isEmpty())
+    if (!m_ieData.empty())
         decoded = decoderForElement(m_ieID)(e);
-    FieldList& rows = e.list(2 + decoded.size());
-    rows.push_back(entryWithName("Element ID", e.decimal(m_ieID)));
-    rows.push_back(
-        entryWithName("Length", e.decimal(static_cast<std::int64_t>(ieLength())), "bytes"));
-    rows.insert(rows.end(), decoded.begin(), decoded.end());
+    const std::span<Field> rows = e.allocateFields(2 + decoded.size());
+    rows[0] = entryWithName("Element ID", e.decimal(m_ieID));
+    rows[1] = entryWithName("Length", e.decimal(static_cast<std::int64_t>(ieLength())), "bytes");
+    std::ranges::copy(decoded, rows.begin() + 2);
     m_ieFields = rows;
+    m_ieSummary = e.summary();
+    m_isDecoded = true;
 }
 
 std::string_view TSInfoElement::ieSummary() const
 {
     decode();
-    return m_decoder->summary();
+    return m_ieSummary;
 }
 
 std::span<const Field> TSInfoElement::fields() const
@@ -116,48 +115,53 @@ std::span<const Field> TSInfoElement::fields() const
 
 // Text --------------------------------------------------------------------------------------------
 
-void composeField(const Field& field, std::string_view indent, DumpBuffer& lines)
+void composeField(const Field& field, std::size_t depth, DumpBuffer& lines)
 {
     const bool isEntry = field.fieldName.has_value();
     if (const FieldText first = isEntry ? field.fieldName : field.fieldSubfieldName) {
-        constexpr std::size_t kPunctuation = 8; // bytes, at most
-        lines.makeRoom(kPunctuation + indent.size() + first.size() + field.fieldValue.size() +
-                       field.fieldNotes.size());
-        lines.put('\n');
-        lines.put(indent);
-        lines.put(*first);
+        constexpr std::size_t kPunctuation = 4; // bytes, at most
+        char* out = lines.roomFor(kLineStart + kPunctuation + first.size() +
+                                  field.fieldValue.size() + field.fieldNotes.size());
+        out = putLineStart(out, depth);
+        out = put(out, *first);
         if (field.fieldValue) {
-            if (isEntry)
-                lines.put(':');
-            lines.put(' ');
-            lines.put(*field.fieldValue);
+            out = put(out, isEntry ? ": " : " ");
+            out = put(out, *field.fieldValue);
         }
         if (field.fieldValue && field.fieldNotes) {
-            if (!isEntry)
-                lines.put(':');
-            lines.put(' ');
-            lines.put(*field.fieldNotes);
+            out = put(out, isEntry ? " " : ": ");
+            out = put(out, *field.fieldNotes);
         }
+        lines.setEnd(out);
     }
     if (!field.fieldSubfields)
         return;
-    const std::string deeper = std::string(indent) + "    ";
-    forEachSubfield(field, [&](const Field& row) { composeField(row, deeper, lines); });
+    if (const auto* bits = std::get_if<BitRows>(&*field.fieldSubfields)) {
+        BitLines::of(bits->bitFields).append(depth + 1, bits->value, lines);
+        return;
+    }
+    for (const Field& row : std::get<std::span<const Field>>(*field.fieldSubfields))
+        composeField(row, depth + 1, lines);
+}
+
+void TSInfoElement::appendDump(DumpBuffer& text) const
+{
+    const bool hasVendor = m_ieID == ElementID::kVendorSpecific;
+    const std::string vendorName = hasVendor ? ieName() : std::string();
+    const std::string_view name = hasVendor ? vendorName : nameWithoutVendor(m_ieID);
+    const std::string_view summary = ieSummary();
+    char* out = put(text.roomFor(name.size() + 3 + summary.size()), name);
+    if (!summary.empty())
+        out = put(put(out, " - "), summary);
+    text.setEnd(out);
+    for (const Field& field : fields())
+        composeField(field, 1, text);
 }
 
 std::string TSInfoElement::ieDump() const
 {
-    const std::string name = ieName();
-    const std::string_view summary = ieSummary();
     DumpBuffer dump;
-    dump.makeRoom(name.size() + 3 + summary.size());
-    dump.put(name);
-    if (!summary.empty()) {
-        dump.put(" - ");
-        dump.put(summary);
-    }
-    for (const Field& field : fields())
-        composeField(field, "    ", dump);
+    appendDump(dump);
     return std::string(dump.text());
 }
 
@@ -165,15 +169,15 @@ std::string TSInfoElement::ieDump() const
 
 std::vector<TSInfoElement> informationElements(const QByteArray& run)
 {
+    constexpr std::size_t kRowsOfARun = 16384; // bytes, about what most beacons need
+    const auto decoder = std::make_shared<ElementDecoder>(kRowsOfARun);
+    const auto size = static_cast<std::size_t>(run.size());
+    const Bytes bytes = decoder->zeroPadded(
+        {reinterpret_cast<const std::uint8_t*>(run.constData()), size}, size + 1 + kLongestContent);
     std::vector<TSInfoElement> elements;
-    for (qsizetype offset = 0; offset < run.size();) {
-        const auto id = static_cast<std::uint8_t>(run[offset]);
-        const auto length =
-            offset + 1 < run.size() ? static_cast<std::uint8_t>(run[offset + 1]) : 0;
-        QByteArray data = run.mid(offset + 2, length);
-        if (data.size() < length)
-            data = data.leftJustified(length, '\0');
-        elements.emplace_back(id, std::move(data));
+    for (std::size_t offset = 0; offset < size;) {
+        const std::size_t length = bytes[offset + 1];
+        elements.emplace_back(bytes[offset], bytes.subspan(offset + 2, length), decoder);
         offset += 2 + length;
     }
     return elements;

@@ -31,7 +31,7 @@ std::vector<std::pair<int, std::size_t>> cut(const char* hex)
 std::string composed(const Field& field)
 {
     DumpBuffer lines;
-    composeField(field, "  ", lines);
+    composeField(field, 1, lines);
     return std::string(lines.text());
 }
 
@@ -109,16 +109,17 @@ TEST(ComposeField, WritesWhatIsThere)
         Field field;
         const char* lines;
     } cases[] = {
-        {entryWithName("Name", "5", "dBm"), "\n  Name: 5 dBm"},
-        {entryWithName("Name", "5"), "\n  Name: 5"},
-        {entryWithName("Name", {}, "dBm"), "\n  Name"},
-        {entryWithName("Name", "", "dBm"), "\n  Name:  dBm"},
-        {subEntryWithName("Bit", ".... ...1", "Set"), "\n  .... ...1 Bit: Set"},
-        {subEntryWithName("Bit", ".... ...1"), "\n  .... ...1 Bit"},
-        {subEntryWithName({}, ".... ...1", "Set"), "\n  .... ...1"},
+        {entryWithName("Name", "5", "dBm"), "\n    Name: 5 dBm"},
+        {entryWithName("Name", "5"), "\n    Name: 5"},
+        {entryWithName("Name", {}, "dBm"), "\n    Name"},
+        {entryWithName("Name", "", "dBm"), "\n    Name:  dBm"},
+        {subEntryWithName("Bit", ".... ...1", "Set"), "\n    .... ...1 Bit: Set"},
+        {subEntryWithName("Bit", ".... ...1"), "\n    .... ...1 Bit"},
+        {subEntryWithName({}, ".... ...1", "Set"), "\n    .... ...1"},
         {subEntryWithName("Bit", {}, "Set"), ""},
-        {entryWithName("Group", {}, {}, below), "\n  Group\n      .... ..1. Bits\n      Leaf: 7"},
-        {entryWithName({}, "5", {}, below), "\n      .... ..1. Bits\n      Leaf: 7"},
+        {entryWithName("Group", {}, {}, below),
+         "\n    Group\n        .... ..1. Bits\n        Leaf: 7"},
+        {entryWithName({}, "5", {}, below), "\n        .... ..1. Bits\n        Leaf: 7"},
     };
     for (const auto& [field, lines] : cases)
         EXPECT_EQ(composed(field), lines);
