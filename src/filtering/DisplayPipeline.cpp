@@ -107,19 +107,19 @@ NetworkList sortedNetworks(const NetworkList& networks,
                            const std::vector<SortDescriptor>& descriptors)
 {
     const std::size_t levels = descriptors.size();
-    std::vector<QVariant> keys; // level by level for each network
+    std::vector<SortKey> keys; // level by level for each network
     keys.reserve(networks.size() * levels);
     for (const NetworkPtr& network : networks) {
         for (const SortDescriptor& descriptor : descriptors)
-            keys.push_back(descriptor.column->sortKey(*network));
+            keys.emplace_back(*descriptor.column, descriptor.column->sortKey(*network));
     }
 
     std::vector<std::size_t> order(networks.size());
     std::iota(order.begin(), order.end(), std::size_t{0});
     std::ranges::stable_sort(order, [&](std::size_t a, std::size_t b) {
         for (std::size_t level = 0; level < levels; ++level) {
-            const int comparison = compareSortKeys(
-                *descriptors[level].column, keys[a * levels + level], keys[b * levels + level]);
+            const int comparison =
+                SortKey::compare(keys[a * levels + level], keys[b * levels + level]);
             if (comparison != 0)
                 return descriptors[level].ascending == (comparison < 0);
         }

@@ -3,15 +3,17 @@
 #include "foundation/Localized.h"
 #include "foundation/TextOrder.h"
 
+#include <QHash>
+
 #include <algorithm>
-#include <map>
+#include <tuple>
 
 namespace tessara {
 
 namespace {
 
 /// Values and their titles.
-using Values = std::map<QString, QString>;
+using Values = QHash<QString, QString>;
 
 /// What the walk over the networks finds.
 struct Facets {
@@ -21,55 +23,81 @@ struct Facets {
     Values accessPoints;
     Values vendors;
 
+    explicit Facets(const NetworkList& networks);
     void add(const TSNetwork& network);
 };
 
+Facets::Facets(const NetworkList& networks)
+{
+    // Of these there may be as many as networks.
+    names.reserve(static_cast<qsizetype>(networks.size()));
+    accessPoints.reserve(static_cast<qsizetype>(networks.size()));
+    for (const NetworkPtr& network : networks)
+        add(*network);
+}
+
 void Facets::add(const TSNetwork& network)
 {
-    names[network.ssid()] = network.ssid();
+    names.insert(network.ssid(), network.ssid());
 
     if (const QString mode = network.phyMode(); !mode.isEmpty())
-        phyModes[mode] = QStringLiteral("802.11%1").arg(mode);
+        phyModes.insert(mode, QStringLiteral("802.11%1").arg(mode));
 
     if (!network.securityMode().isEmpty()) {
         const QString mode = network.shortSecurityMode();
         const QString title = mode.isEmpty() ? localized("Open") : mode;
-        security[title] = title;
+        security.insert(title, title);
     }
 
     // One radio stands for itself; with more, their access point does, and the last one decides.
     const QString& apid = network.apid();
-    accessPoints[apid] = accessPoints.contains(apid) ? apid : network.deviceid();
+    const qsizetype before = accessPoints.size();
+    QString& accessPoint = accessPoints[apid];
+    accessPoint = accessPoints.size() > before ? network.deviceid() : apid;
 
     const QString vendor = network.vendor().value_or(QStringLiteral("Unknown"));
-    vendors[vendor] = vendor;
+    vendors.insert(vendor, vendor);
 }
 
-using IsBefore = bool (*)(const TSSideViewItem& a, const TSSideViewItem& b);
+/// A value as it is sorted: by its title, and by itself where titles are equal.
+struct TitledValue {
+    QString title;
+    QString value;
 
-bool byTitle(const TSSideViewItem& a, const TSSideViewItem& b)
+    auto tied() const { return std::tie(title, value); }
+};
+
+bool byTitle(const TitledValue& a, const TitledValue& b)
 {
-    return a.title < b.title;
+    return a.tied() < b.tied();
 }
 
 /// "802.11a/n" as if it were "802.11an".
-bool byModes(const TSSideViewItem& a, const TSSideViewItem& b)
+bool byModes(const TitledValue& a, const TitledValue& b)
 {
     const auto bare = [](QString title) { return title.remove(u'/'); };
-    return caseInsensitiveCompare(bare(a.title), bare(b.title)) < 0;
+    const int order = caseInsensitiveCompare(bare(a.title), bare(b.title));
+    return order != 0 ? order < 0 : byTitle(a, b);
 }
 
 TSSideViewItem categoryOf(const char* title, const QString& identifier, const Values& values,
-                          IsBefore isBefore = byTitle)
+                          bool (*isBefore)(const TitledValue&, const TitledValue&) = byTitle)
 {
+    std::vector<TitledValue> sorted;
+    sorted.reserve(static_cast<std::size_t>(values.size()));
+    for (auto value = values.cbegin(); value != values.cend(); ++value)
+        sorted.push_back({value.value(), value.key()});
+    std::ranges::sort(sorted, isBefore);
+
     TSSideViewItem category{.title = localized(title),
                             .identifier = QStringLiteral("category"),
                             .filterString = localized(title),
                             .showCount = true};
-    for (const auto& [value, valueTitle] : values)
-        category.children.push_back(
-            {.title = valueTitle, .identifier = identifier, .filterString = value});
-    std::ranges::stable_sort(category.children, isBefore);
+    category.children.reserve(sorted.size());
+    for (TitledValue& each : sorted)
+        category.children.push_back({.title = std::move(each.title),
+                                     .identifier = identifier,
+                                     .filterString = std::move(each.value)});
     return category;
 }
 
@@ -95,9 +123,7 @@ std::vector<TSSideViewItem> emptySideView()
 
 std::vector<TSSideViewItem> sideViewOf(const NetworkList& networks)
 {
-    Facets facets;
-    for (const NetworkPtr& network : networks)
-        facets.add(*network);
+    const Facets facets(networks);
 
     std::vector<TSSideViewItem> items = emptySideView();
     items.push_back(bandCategory());

@@ -18,12 +18,22 @@ QCollator makeCollator()
     return collator;
 }
 
+const QCollator& standardCollator()
+{
+    static thread_local const QCollator collator = makeCollator();
+    return collator;
+}
+
 } // namespace
 
 int localizedStandardCompare(const QString& a, const QString& b)
 {
-    static thread_local const QCollator collator = makeCollator();
-    return collator.compare(a, b);
+    return standardCollator().compare(a, b);
+}
+
+QCollatorSortKey localizedStandardSortKey(const QString& text)
+{
+    return standardCollator().sortKey(text);
 }
 
 int caseInsensitiveCompare(const QString& a, const QString& b)

@@ -350,21 +350,33 @@ const Column* columnWithIdentifier(QStringView identifier)
     return column == registry.end() ? nullptr : &*column;
 }
 
-int compareSortKeys(const Column& column, const QVariant& a, const QVariant& b)
+SortKey::SortKey(const Column& column, const QVariant& key)
 {
     switch (column.comparison) {
     case Comparison::kStandard:
-        return localizedStandardCompare(a.toString(), b.toString());
+        m_value = localizedStandardSortKey(key.toString());
+        break;
     case Comparison::kCaseInsensitive:
-        return caseInsensitiveCompare(a.toString(), b.toString());
-    case Comparison::kNumber: {
-        const double left = a.toDouble();
-        const double right = b.toDouble();
-        return left < right ? -1 : left > right ? 1 : 0;
-    }
+        m_value = key.toString();
+        break;
+    case Comparison::kNumber:
+        m_value = key.toDouble();
+        break;
     case Comparison::kNone:
         break;
     }
+}
+
+int SortKey::compare(const SortKey& a, const SortKey& b)
+{
+    if (const double* left = std::get_if<double>(&a.m_value)) {
+        const double right = std::get<double>(b.m_value);
+        return *left < right ? -1 : *left > right ? 1 : 0;
+    }
+    if (const auto* left = std::get_if<QCollatorSortKey>(&a.m_value))
+        return left->compare(std::get<QCollatorSortKey>(b.m_value));
+    if (const QString* left = std::get_if<QString>(&a.m_value))
+        return caseInsensitiveCompare(*left, std::get<QString>(b.m_value));
     return 0;
 }
 

@@ -1,9 +1,11 @@
 #pragma once
 
+#include <QCollatorSortKey>
 #include <QString>
 #include <QVariant>
 
 #include <span>
+#include <variant>
 #include <vector>
 
 namespace tessara {
@@ -50,7 +52,16 @@ std::span<const Column> columnRegistry();
 /// The column of an identifier; none if there is no such column.
 const Column* columnWithIdentifier(QStringView identifier);
 
-/// Order of two sort keys of a column: negative, 0 or positive.
-int compareSortKeys(const Column& column, const QVariant& a, const QVariant& b);
+/// The sort key of a row in the form in which the column compares it.
+class SortKey {
+public:
+    SortKey(const Column& column, const QVariant& key);
+
+    /// Order of two keys of one column: negative, 0 or positive.
+    static int compare(const SortKey& a, const SortKey& b);
+
+private:
+    std::variant<std::monostate, double, QCollatorSortKey, QString> m_value;
+};
 
 } // namespace tessara

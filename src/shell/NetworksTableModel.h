@@ -7,6 +7,8 @@
 
 namespace tessara {
 
+struct RowChanges;
+
 /// The rows and cell texts of the networks table: one row a network, one column an entry of the
 /// column registry, in the registry's order.
 ///
@@ -39,12 +41,10 @@ public:
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 private:
-    struct Changes;
-
-    void removeRuns(const Changes& changes);
-    void moveRuns(const Changes& changes, const NetworkList& networks);
-    void insertRuns(const Changes& changes, const NetworkList& networks);
-    void rebuild(const Changes& changes, const NetworkList& networks);
+    void removeRuns(const RowChanges& changes);
+    void moveRuns(const RowChanges& changes, const NetworkList& networks);
+    void insertRuns(const RowChanges& changes, const NetworkList& networks);
+    void rebuild(const RowChanges& changes, const NetworkList& networks);
 
     NetworkList m_networks;
     CellContext m_context;

@@ -1,7 +1,9 @@
 #include "shell/SideViewModel.h"
 
+#include "shell/RowChanges.h"
+
 #include <QFont>
-#include <QSet>
+#include <QHash>
 
 #include <utility>
 
@@ -13,28 +15,27 @@ namespace {
 // row of its category.
 constexpr quintptr kTop = 0;
 
+// More steps than this cost more than one change of the whole category.
+constexpr std::size_t kMaxSteps = 50;
+
 /// What tells two values of a category apart.
-std::pair<QString, QString> keyOf(const TSSideViewItem& item)
+std::pair<QStringView, QStringView> keyOf(const TSSideViewItem& item)
 {
     return {item.title, item.filterString};
 }
 
-QSet<std::pair<QString, QString>> keysOf(const std::vector<TSSideViewItem>& items)
+RowChanges changesBetween(const std::vector<TSSideViewItem>& shown,
+                          const std::vector<TSSideViewItem>& values)
 {
-    QSet<std::pair<QString, QString>> keys;
-    for (const TSSideViewItem& item : items)
-        keys.insert(keyOf(item));
-    return keys;
-}
-
-/// The end of the run of items from `first` on whose keys are, or are not, among some.
-std::size_t runEnd(const std::vector<TSSideViewItem>& items, std::size_t first,
-                   const QSet<std::pair<QString, QString>>& keys, bool areAmong)
-{
-    std::size_t end = first;
-    while (end < items.size() && keys.contains(keyOf(items[end])) == areAmong)
-        ++end;
-    return end;
+    QHash<std::pair<QStringView, QStringView>, int> rows;
+    rows.reserve(static_cast<qsizetype>(values.size()));
+    for (const TSSideViewItem& value : values)
+        rows.insert(keyOf(value), static_cast<int>(rows.size()));
+    std::vector<int> newRow;
+    newRow.reserve(shown.size());
+    for (const TSSideViewItem& value : shown)
+        newRow.push_back(rows.value(keyOf(value), RowChanges::kGone));
+    return {std::move(newRow), values.size()};
 }
 
 } // namespace
@@ -83,40 +84,72 @@ void SideViewModel::setValues(int category, std::vector<TSSideViewItem> values)
 {
     std::vector<TSSideViewItem>& shown = m_items[static_cast<std::size_t>(category)].children;
     const std::size_t before = shown.size();
-    const QModelIndex parent = index(category, kItemColumn);
-
-    const auto wanted = keysOf(values);
-    for (std::size_t row = 0; row < shown.size();) {
-        const std::size_t end = runEnd(shown, row, wanted, false);
-        if (end == row) {
-            ++row;
-            continue;
-        }
-        beginRemoveRows(parent, static_cast<int>(row), static_cast<int>(end) - 1);
-        shown.erase(shown.begin() + static_cast<std::ptrdiff_t>(row),
-                    shown.begin() + static_cast<std::ptrdiff_t>(end));
-        endRemoveRows();
-    }
-
-    // Both lists are in one order: what is left of the old one lies in the new one as it is.
-    const auto kept = keysOf(shown);
-    for (std::size_t row = 0; row < values.size();) {
-        const std::size_t end = runEnd(values, row, kept, false);
-        if (end == row) {
-            ++row;
-            continue;
-        }
-        beginInsertRows(parent, static_cast<int>(row), static_cast<int>(end) - 1);
-        shown.insert(shown.begin() + static_cast<std::ptrdiff_t>(row),
-                     values.begin() + static_cast<std::ptrdiff_t>(row),
-                     values.begin() + static_cast<std::ptrdiff_t>(end));
-        endInsertRows();
-        row = end;
-    }
-
+    const RowChanges changes = changesBetween(shown, values);
+    if (changes.moved.empty() && changes.steps() <= kMaxSteps)
+        follow(changes, category, values);
+    else
+        rebuild(changes, category, values);
     if (shown.size() != before) {
         const QModelIndex count = index(category, kDetailColumn);
         Q_EMIT dataChanged(count, count);
+    }
+}
+
+void SideViewModel::follow(const RowChanges& changes, int category,
+                           const std::vector<TSSideViewItem>& values)
+{
+    std::vector<TSSideViewItem>& shown = m_items[static_cast<std::size_t>(category)].children;
+    const QModelIndex parent = index(category, kItemColumn);
+    for (auto run = changes.removed.rbegin(); run != changes.removed.rend(); ++run) {
+        beginRemoveRows(parent, run->first, run->end - 1);
+        shown.erase(shown.begin() + run->first, shown.begin() + run->end);
+        endRemoveRows();
+    }
+    for (const RowChanges::Run& run : changes.inserted) {
+        beginInsertRows(parent, run.first, run.end - 1);
+        shown.insert(shown.begin() + run.first, values.begin() + run.first,
+                     values.begin() + run.end);
+        endInsertRows();
+    }
+}
+
+/// The way in few steps, however much has changed: what is new comes in at the end, all values
+/// take their places at once, and what goes, by then at the end, is cut off.
+void SideViewModel::rebuild(const RowChanges& changes, int category,
+                            const std::vector<TSSideViewItem>& values)
+{
+    std::vector<TSSideViewItem>& shown = m_items[static_cast<std::size_t>(category)].children;
+    const QModelIndex parent = index(category, kItemColumn);
+    const std::vector<int> places = changes.places();
+    const std::size_t before = shown.size();
+    if (places.size() > before) {
+        beginInsertRows(parent, static_cast<int>(before), static_cast<int>(places.size()) - 1);
+        for (std::size_t row = before; row < places.size(); ++row)
+            shown.push_back(values[static_cast<std::size_t>(places[row])]);
+        endInsertRows();
+    }
+
+    Q_EMIT layoutAboutToBeChanged({parent}, VerticalSortHint);
+    QModelIndexList from;
+    QModelIndexList to;
+    for (const QModelIndex& each : persistentIndexList()) {
+        if (each.parent() != parent)
+            continue;
+        from.append(each);
+        to.append(index(places[static_cast<std::size_t>(each.row())], each.column(), parent));
+    }
+    std::vector<TSSideViewItem> arranged(places.size());
+    for (std::size_t row = 0; row < places.size(); ++row)
+        arranged[static_cast<std::size_t>(places[row])] = std::move(shown[row]);
+    shown = std::move(arranged);
+    changePersistentIndexList(from, to);
+    Q_EMIT layoutChanged({parent}, VerticalSortHint);
+
+    if (shown.size() > values.size()) {
+        beginRemoveRows(parent, static_cast<int>(values.size()),
+                        static_cast<int>(shown.size()) - 1);
+        shown.resize(values.size());
+        endRemoveRows();
     }
 }
 

@@ -6,6 +6,8 @@
 
 namespace tessara {
 
+struct RowChanges;
+
 /// The tree of the side view: a heading, facets, and their values. A new tree is not a new model:
 /// values come and go, so that what a view keeps by row stays with the value.
 class SideViewModel final : public QAbstractItemModel {
@@ -30,6 +32,9 @@ public:
 private:
     void setCategories(const std::vector<TSSideViewItem>& items);
     void setValues(int category, std::vector<TSSideViewItem> values);
+    void follow(const RowChanges& changes, int category, const std::vector<TSSideViewItem>& values);
+    void rebuild(const RowChanges& changes, int category,
+                 const std::vector<TSSideViewItem>& values);
 
     std::vector<TSSideViewItem> m_items;
 };

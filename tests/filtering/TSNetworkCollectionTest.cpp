@@ -4,6 +4,8 @@
 #include "foundation/Defaults.h"
 #include "foundation/Directories.h"
 
+#include <algorithm>
+
 #include <gtest/gtest.h>
 
 #include <limits>
@@ -268,7 +270,10 @@ TEST(TSNetworkCollection, SortsAmongPlainRows)
     for (const auto& [identifier, order] :
          {std::pair{u"CHANNEL", -1}, {u"RSSI", 1}, {u"RSSI_MAX", 1}, {u"SEEN", 0}}) {
         const Column& column = *columnWithIdentifier(identifier);
-        EXPECT_EQ(compareSortKeys(column, column.sortKey(row), column.sortKey(*six)), order)
+        EXPECT_EQ(std::clamp(SortKey::compare({column, column.sortKey(row)},
+                                              {column, column.sortKey(*six)}),
+                             -1, 1),
+                  order)
             << column.identifier.toStdString();
     }
 }

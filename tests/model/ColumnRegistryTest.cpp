@@ -64,12 +64,14 @@ TEST(ColumnRegistry, TellsHowLongAgoANetworkWasSeenInCalmSteps)
 TEST(ColumnRegistry, OrdersNumbersInTextsByTheirValue)
 {
     const Column& channel = *columnWithIdentifier(u"CHANNEL");
-    EXPECT_LT(compareSortKeys(channel, QStringLiteral("9"), QStringLiteral("36")), 0);
+    EXPECT_LT(SortKey::compare({channel, QStringLiteral("9")}, {channel, QStringLiteral("36")}), 0);
     const Column& name = *columnWithIdentifier(u"SSID");
-    EXPECT_LT(compareSortKeys(name, QStringLiteral("Net 9"), QStringLiteral("net 10")), 0);
-    EXPECT_LT(compareSortKeys(name, QStringLiteral("ábc"), QStringLiteral("b")), 0);
+    EXPECT_LT(SortKey::compare({name, QStringLiteral("Net 9")}, {name, QStringLiteral("net 10")}),
+              0);
+    EXPECT_LT(SortKey::compare({name, QStringLiteral("ábc")}, {name, QStringLiteral("b")}), 0);
     const Column& vendor = *columnWithIdentifier(u"VENDOR");
-    EXPECT_EQ(compareSortKeys(vendor, QStringLiteral("ACME"), QStringLiteral("acme")), 0);
+    EXPECT_EQ(SortKey::compare({vendor, QStringLiteral("ACME")}, {vendor, QStringLiteral("acme")}),
+              0);
     const Column& signal = *columnWithIdentifier(u"RSSI");
-    EXPECT_LT(compareSortKeys(signal, -90, -9), 0);
+    EXPECT_LT(SortKey::compare({signal, -90}, {signal, -9}), 0);
 }
