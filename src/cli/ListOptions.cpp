@@ -3,6 +3,8 @@
 #include "cli/NetworksJSON.h"
 #include "cli/TableText.h"
 #include "cli/Terminal.h"
+#include "foundation/Defaults.h"
+#include "persistence/CSVExport.h"
 
 #include <QTextStream>
 
@@ -25,6 +27,26 @@ QString noSuchColumn(QStringView identifier)
     return QStringLiteral("there is no column '%1'").arg(identifier);
 }
 
+void writeList(QTextStream& out, const DisplayPipeline& pipeline, const ListOptions& options,
+               const CellContext& context, double lastScanTime)
+{
+    switch (options.format) {
+    case ListOptions::Format::kJSON:
+        writeNetworksJSON(out, pipeline, context, lastScanTime);
+        break;
+    case ListOptions::Format::kCSV:
+        out << csvText(pipeline.filteredNetworks(), options.columns,
+                       Defaults::standard().integerForKey(DefaultKey::Units));
+        break;
+    case ListOptions::Format::kTable:
+        const int width = isStandardOutputTerminal() ? terminalSize().columns : 0;
+        for (const QString& line :
+             tableText(pipeline.filteredNetworks(), options.columns, context, width))
+            out << line << '\n';
+        break;
+    }
+}
+
 } // namespace
 
 void addListOptions(QCommandLineParser& parser)
@@ -38,8 +60,9 @@ void addListOptions(QCommandLineParser& parser)
         {QStringLiteral("columns"), QStringLiteral("Show these columns, by their identifiers."),
          QStringLiteral("ID,...")},
         {QStringLiteral("format"),
-         QStringLiteral("'table' for people (the default on a terminal), 'json' for programs."),
-         QStringLiteral("table|json")},
+         QStringLiteral("'table' for people (the default), 'csv' as the application exports it, "
+                        "'json' for programs."),
+         QStringLiteral("table|csv|json")},
     });
 }
 
@@ -47,10 +70,12 @@ std::optional<ListOptions> listOptions(const QCommandLineParser& parser, QString
 {
     ListOptions options;
     const QString format = parser.value(QStringLiteral("format"));
-    if (format == QLatin1String("json")) {
+    if (format == QLatin1String("csv")) {
+        options.format = ListOptions::Format::kCSV;
+    } else if (format == QLatin1String("json")) {
         options.format = ListOptions::Format::kJSON;
     } else if (!format.isEmpty() && format != QLatin1String("table")) {
-        error = QStringLiteral("--format takes 'table' or 'json', not '%1'").arg(format);
+        error = QStringLiteral("--format takes 'table', 'csv' or 'json', not '%1'").arg(format);
         return std::nullopt;
     }
 
@@ -70,7 +95,7 @@ std::optional<ListOptions> listOptions(const QCommandLineParser& parser, QString
         options.sort = {{column, direction.isEmpty()}};
     }
 
-    options.columns = shownColumns();
+    options.columns = options.format == ListOptions::Format::kCSV ? allColumns() : shownColumns();
     if (const QString identifiers = parser.value(QStringLiteral("columns"));
         !identifiers.isEmpty()) {
         options.columns.clear();
@@ -91,14 +116,7 @@ ExitStatus printList(const DisplayPipeline& pipeline, const ListOptions& options
 {
     {
         QTextStream out(stdout);
-        if (options.format == ListOptions::Format::kJSON) {
-            writeNetworksJSON(out, pipeline, context, lastScanTime);
-        } else {
-            const int width = isStandardOutputTerminal() ? terminalSize().columns : 0;
-            for (const QString& line :
-                 tableText(pipeline.filteredNetworks(), options.columns, context, width))
-                out << line << '\n';
-        }
+        writeList(out, pipeline, options, context, lastScanTime);
     }
     return finishOutput();
 }

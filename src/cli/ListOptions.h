@@ -12,7 +12,7 @@ namespace tessara {
 
 /// How a list of networks is to be printed.
 struct ListOptions {
-    enum class Format { kTable, kJSON };
+    enum class Format { kTable, kCSV, kJSON };
 
     std::vector<SortDescriptor> sort;
     QString filter; ///< a line of the filter language; empty selects all
@@ -20,7 +20,7 @@ struct ListOptions {
     Format format = Format::kTable;
 };
 
-/// --filter LINE, --sort COLUMN[:desc], --columns ID,…, --format table|json
+/// --filter LINE, --sort COLUMN[:desc], --columns ID,…, --format table|csv|json
 void addListOptions(QCommandLineParser& parser);
 
 /// @param error what is wrong, if something is

@@ -62,7 +62,7 @@ ExitStatus run(const QCommandLineParser& parser, const QStringList& arguments)
             return wrongUsage(QStringLiteral("--save %1: a file ends in .jsonl or .jsonl.gz")
                                   .arg(*options.saveTo));
     }
-    if (options.watch && list->format == ListOptions::Format::kJSON)
+    if (options.watch && list->format != ListOptions::Format::kTable)
         return wrongUsage(QStringLiteral("--watch shows a table: it goes with no other format"));
 
     ScanRuntime runtime;

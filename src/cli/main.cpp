@@ -1,6 +1,6 @@
 #include "cli/Command.h"
+#include "cli/DirectoryOptions.h"
 #include "cli/Terminal.h"
-#include "cli/VendorsOption.h"
 #include "foundation/SettingsOptions.h"
 
 #include <QCoreApplication>
@@ -35,7 +35,7 @@ ExitStatus runCommand(const Command& command, const QStringList& words)
                                   QStringLiteral("Show this help."));
     command.addOptions(parser);
     addSettingsOptions(parser);
-    addVendorsOption(parser);
+    addDirectoryOptions(parser);
     parser.addOption(help);
     if (!parser.parse(words))
         return wrongUsage(parser.errorText());
@@ -47,7 +47,7 @@ ExitStatus runCommand(const Command& command, const QStringList& words)
     }
     if (const QString error = applySettingsOptions(parser); !error.isEmpty())
         return wrongUsage(error);
-    if (const QString error = installVendors(parser); !error.isEmpty()) {
+    if (const QString error = installDirectories(parser); !error.isEmpty()) {
         complain(error);
         return kFailed;
     }

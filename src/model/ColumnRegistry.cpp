@@ -5,6 +5,7 @@
 #include "foundation/TextOrder.h"
 #include "model/SignalPercentage.h"
 #include "model/TSNetwork.h"
+#include "model/TimeText.h"
 
 #include <QDateTime>
 #include <QLocale>
@@ -98,24 +99,20 @@ QString channelUtilizationText(const NetworkRow& row, const CellContext&)
     return percent < 0 ? QString() : QStringLiteral("%1%").arg(percent);
 }
 
-QDateTime dateOf(double time)
-{
-    return QDateTime::fromMSecsSinceEpoch(std::llround(time * 1000));
-}
-
 template <auto value>
 QString timeOf(const NetworkRow& row, const CellContext&)
 {
     const std::optional<double> time = (row.*value)();
-    return time ? QLocale::c().toString(dateOf(*time), QStringLiteral("yyyy/MM/dd hh:mm:ss AP"))
-                : QString();
+    return time ? timeText(*time) : QString();
 }
 
 QString seenText(const NetworkRow& row, const CellContext& context)
 {
     if (!context.isScanning) {
         const auto time = row.lastSeenValue();
-        return time ? QLocale().toString(dateOf(*time), QLocale::ShortFormat) : QString();
+        return time ? QLocale().toString(QDateTime::fromMSecsSinceEpoch(std::llround(*time * 1000)),
+                                         QLocale::ShortFormat)
+                    : QString();
     }
     constexpr std::int64_t kMinute = 60;
     constexpr std::int64_t kHour = 3600;
@@ -341,6 +338,14 @@ std::span<const Column> columnRegistry()
 {
     static const std::vector<Column> registry = makeRegistry();
     return registry;
+}
+
+std::vector<const Column*> allColumns()
+{
+    std::vector<const Column*> columns;
+    for (const Column& column : columnRegistry())
+        columns.push_back(&column);
+    return columns;
 }
 
 const Column* columnWithIdentifier(QStringView identifier)

@@ -49,6 +49,7 @@ struct Column {
 
 /// All columns in the order in which a fresh table shows them.
 std::span<const Column> columnRegistry();
+std::vector<const Column*> allColumns();
 /// The column of an identifier; none if there is no such column.
 const Column* columnWithIdentifier(QStringView identifier);
 

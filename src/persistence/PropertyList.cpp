@@ -2,8 +2,11 @@
 
 #include "foundation/Localized.h"
 
+#include <QStringList>
+
 #include <expat.h>
 
+#include <algorithm>
 #include <memory>
 #include <string>
 
@@ -110,14 +113,64 @@ private:
     QString m_refusal;
 };
 
+/// Of the characters of UTF-16, those that XML cannot hold (XML 1.0, 2.2); a surrogate without its
+/// other half is seen to by the encoder.
+bool isForeignToXML(QChar character)
+{
+    const char16_t c = character.unicode();
+    return (c < 0x20 && c != u'\t' && c != u'\n' && c != u'\r') || c == 0xfffe || c == 0xffff;
+}
+
+void appendText(QByteArray& xml, QString text)
+{
+    std::ranges::replace_if(text, isForeignToXML, QChar(QChar::ReplacementCharacter));
+    for (const char c : text.toUtf8()) {
+        switch (c) {
+        case '&':
+            xml += "&amp;";
+            break;
+        case '<':
+            xml += "&lt;";
+            break;
+        case '>':
+            xml += "&gt;";
+            break;
+        case '\r':
+            xml += "&#13;"; // as itself it would be read as a line feed
+            break;
+        default:
+            xml += c;
+        }
+    }
+}
+
 } // namespace
 
 bool readTextDictionary(const QByteArray& bytes, QString& error,
-                        const std::function<void(QByteArrayView key, QByteArrayView value)>& entry)
+                        const std::function<void(QByteArrayView key, QByteArrayView value)>& entry,
+                        qsizetype longest)
 {
-    error = bytes.size() > kLongestPropertyList ? localized("the property list is too long")
-                                                : TextDictionaryReader(entry).read(bytes);
+    error = bytes.size() > longest ? localized("the property list is too long")
+                                   : TextDictionaryReader(entry).read(bytes);
     return error.isEmpty();
+}
+
+QByteArray textDictionary(const QHash<QString, QString>& entries)
+{
+    QStringList keys = entries.keys();
+    keys.sort();
+    QByteArray xml = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+                     "<!DOCTYPE plist PUBLIC \"-//Apple//DTD PLIST 1.0//EN\" "
+                     "\"http://www.apple.com/DTDs/PropertyList-1.0.dtd\">\n"
+                     "<plist version=\"1.0\">\n<dict>\n";
+    for (const QString& key : keys) {
+        xml += "\t<key>";
+        appendText(xml, key);
+        xml += "</key>\n\t<string>";
+        appendText(xml, entries.value(key));
+        xml += "</string>\n";
+    }
+    return xml + "</dict>\n</plist>\n";
 }
 
 } // namespace tessara

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "foundation/Directories.h"
+
+#include <QHash>
+#include <QString>
+
+#include <mutex>
+#include <optional>
+
+namespace tessara {
+
+/// The user's notes on networks, by BSSID as `TSNetwork` gives it: the one store for all scans and
+/// runs, a file "annotations.plist". Every operation may be called on any thread.
+class TSAnnotationsHelper final : public AnnotationsDirectory {
+public:
+    using Annotations = QHash<QString, QString>; ///< notes by BSSID
+
+    /// The notes of the user who runs the program, read from disk when first asked for.
+    static TSAnnotationsHelper& sharedAnnotations();
+
+    /// An empty store.
+    explicit TSAnnotationsHelper(QString path);
+
+    Annotations annotations() const;
+    std::optional<QString> annotationsForNetwork(const QString& bssid) const;
+    /// Stores a note, trimmed; one of blanks removes the entry.
+    void setAnnotationsForNetwork(const QString& bssid, const QString& annotations);
+
+    /// Takes the notes that an earlier version kept among the settings, which are moved for good,
+    /// or else those of the file. A file that is damaged is set aside, and the store is empty.
+    void readFromDisk();
+    /// Takes the notes of the file. @return what is wrong with it, in one line, or empty
+    QString load();
+    /// Replaces the file. A failure is one line in the log. @return whether the file is there
+    bool saveToDisk() const;
+
+    std::optional<QString> annotationsFor(const QString& bssid) const override;
+    void setAnnotations(const QString& bssid, const QString& note) override;
+
+private:
+    void set(Annotations annotations);
+
+    const QString m_path;
+    mutable std::mutex m_lock; ///< of the notes
+    Annotations m_annotations;
+    mutable std::mutex m_fileLock; ///< what is saved last is the newest
+};
+
+} // namespace tessara

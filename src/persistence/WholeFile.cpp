@@ -1,0 +1,38 @@
+#include "persistence/WholeFile.h"
+
+#include "foundation/Localized.h"
+
+#include <QFileInfo>
+#include <QSaveFile>
+
+namespace tessara {
+
+std::optional<QByteArray> readWholeFile(const QString& path, qint64 longest, QString& error)
+{
+    const auto unreadable = [&](const QString& reason) {
+        error = localized("%1: could not be read: %2").arg(path, reason);
+        return std::nullopt;
+    };
+    const QFileInfo info(path);
+    if (info.exists() && !info.isFile()) // a pipe or a device may have no end
+        return unreadable(localized("this is no regular file"));
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return unreadable(file.errorString());
+    if (file.size() > longest)
+        return unreadable(localized("it is longer than %1 MB").arg(longest >> 20));
+    QByteArray bytes = file.readAll();
+    if (file.error() != QFileDevice::NoError)
+        return unreadable(file.errorString());
+    return bytes;
+}
+
+QString writeWholeFile(const QString& path, const QByteArray& bytes)
+{
+    QSaveFile file(path);
+    if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit())
+        return {};
+    return localized("%1: could not be written: %2").arg(path, file.errorString());
+}
+
+} // namespace tessara
