@@ -30,11 +30,16 @@ const FontSizeRange kFontSizes[] = {
 } // namespace
 
 AppDelegate::AppDelegate(WiFiService& wifi, TSVendorDatabaseHelper& vendors,
-                         EngineServices services)
+                         TSAnnotationsHelper& annotations, EngineServices services)
     : m_scanCycle(chooseInterface(wifi), services, *this, m_prompt)
     , m_clock(services.clock)
     , m_vendors(vendors)
+    , m_annotations(annotations)
     , m_vendorsUpdate(vendors, m_prompt, services.clock)
+    , m_exchange(m_window,
+                 {m_scanCycle, m_pipeline, annotations, services.clock,
+                  [this] { return hasUnsavedResults(); }},
+                 m_prompt)
 {
     m_window.installEventFilter(this);
     connectParts(services.notifications);
@@ -55,6 +60,22 @@ void AppDelegate::connectParts(NotificationCenter& notifications)
     const TSNetworksView& table = m_window.networksView();
     connect(&table, &TSNetworksView::sortDescriptorsDidChange, this,
             [this] { filterAndSetNetworks(m_pipeline.networks()); });
+    connect(&table, &TSNetworksView::didEndEditing, this, &AppDelegate::prepareAndReload);
+
+    using Exchange = ExchangeCommands;
+    connect(&m_window, &MainWindow::fileMenuWillShow, &m_exchange, &Exchange::validateMenuItems);
+    connect(&m_window, &MainWindow::exportAllNetworksRequested, &m_exchange,
+            &Exchange::onFileSummaryExportAllNetworks);
+    connect(&m_window, &MainWindow::exportDisplayedNetworksRequested, &m_exchange,
+            &Exchange::onFileSummaryExportDisplayedNetworks);
+    connect(&m_window, &MainWindow::exportSelectedNetworksRequested, &m_exchange,
+            &Exchange::onFileSummaryExportSelectedNetworks);
+    connect(&m_window, &MainWindow::exportAnnotationsRequested, &m_exchange,
+            &Exchange::onFileAnnotationsExportCSV);
+    connect(&m_window, &MainWindow::importAnnotationsRequested, &m_exchange,
+            &Exchange::onFileAnnotationsImportCSV);
+    connect(&m_window, &MainWindow::copyRequested, &m_exchange, &Exchange::copy);
+    connect(&m_exchange, &Exchange::annotationsDidChange, this, &AppDelegate::configureAll);
 
     const TSSideView& sideView = m_window.sideView();
     connect(&sideView, &TSSideView::selectionDidChange, this,
@@ -207,6 +228,7 @@ void AppDelegate::terminate()
 
 void AppDelegate::applicationWillTerminate()
 {
+    m_annotations.saveToDisk();
     Defaults& defaults = Defaults::standard();
     defaults.disconnect(this);
     saveDefaults();
@@ -318,7 +340,14 @@ std::optional<Association> AppDelegate::association() const
 
 void AppDelegate::prepareAndReload()
 {
-    configureAll();
+    if (!m_window.networksView().isEditing())
+        configureAll();
+}
+
+/// Live results, whose notes are the user's to write.
+bool AppDelegate::hasUnsavedResults() const
+{
+    return !m_scanCycle.networks().empty();
 }
 
 void AppDelegate::configureAll()
@@ -347,6 +376,7 @@ void AppDelegate::configureNetworksView()
     TSNetworksView& table = m_window.networksView();
     table.setFontSize(defaults.doubleForKey(DefaultKey::NetworksViewFontSize));
     table.setPlaceholderText(placeholderText());
+    table.setAnnotationsEditable(hasUnsavedResults());
     table.setFilteredColumns(m_pipeline.filteredColumnIdentifiers());
     table.setNetworks(m_pipeline.filteredNetworks(),
                       CellContext::fromDefaults(m_scanCycle.isScanning()));

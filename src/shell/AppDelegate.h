@@ -4,6 +4,7 @@
 #include "filtering/TSSideViewItem.h"
 #include "persistence/VendorDatabaseUpdate.h"
 #include "scanning/ScanCycle.h"
+#include "shell/ExchangeCommands.h"
 #include "shell/MainWindow.h"
 #include "shell/SheetPrompt.h"
 
@@ -20,7 +21,8 @@ public:
     /// Builds the window and chooses the interface; nothing is visible yet.
     /// @param wifi where the interface comes from
     /// @param services must outlive this, as the engines do
-    AppDelegate(WiFiService& wifi, TSVendorDatabaseHelper& vendors, EngineServices services);
+    AppDelegate(WiFiService& wifi, TSVendorDatabaseHelper& vendors,
+                TSAnnotationsHelper& annotations, EngineServices services);
 
     /// Reads the settings and shows the window; the first time, scanning may start by itself.
     void applicationWillFinishLaunching();
@@ -69,6 +71,7 @@ private:
     void sideViewSelectionDidChange(const std::optional<TSSideViewItem>& item);
     void userDidClickSourceList();
     QString placeholderText() const;
+    bool hasUnsavedResults() const;
     bool windowShouldClose();
     void windowWillClose();
     void applicationWillTerminate();
@@ -80,8 +83,10 @@ private:
     ScanCycle m_scanCycle;
     Clock& m_clock;
     TSVendorDatabaseHelper& m_vendors;
+    TSAnnotationsHelper& m_annotations;
     VendorDatabaseUpdate m_vendorsUpdate;
     std::unique_ptr<RepeatingTimer> m_vendorsCheck; ///< until its first call
+    ExchangeCommands m_exchange;
     bool m_windowDidShowFirstTime = false;
     std::int64_t m_signalStrengthThreshold = 0;
     SideViewSelection m_sideViewSelection;

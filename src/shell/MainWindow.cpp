@@ -13,6 +13,7 @@
 
 #include <QAction>
 #include <QActionGroup>
+#include <QApplication>
 #include <QComboBox>
 #include <QKeyEvent>
 #include <QLabel>
@@ -160,9 +161,13 @@ void MainWindow::setQuickFilter(QuickFilter filter)
 void MainWindow::makeMenus()
 {
     QMenu& file = *menuBar()->addMenu(localized("&File"));
+    makeExchangeItems(file);
+    file.addSeparator();
     QAction* quit = file.addAction(localized("&Quit"), this, &QWidget::close);
     quit->setShortcuts({QKeySequence(Qt::CTRL | Qt::Key_Q), QKeySequence(Qt::CTRL | Qt::Key_W)});
     quit->setMenuRole(QAction::QuitRole);
+
+    makeEditMenu();
 
     QMenu& scan = *menuBar()->addMenu(localized("&Scan"));
     scan.setToolTipsVisible(true);
@@ -199,6 +204,51 @@ void MainWindow::makeMenus()
         ->setMenuRole(QAction::AboutRole);
 }
 
+void MainWindow::makeExchangeItems(QMenu& file)
+{
+    connect(&file, &QMenu::aboutToShow, this, &MainWindow::fileMenuWillShow);
+    QMenu& networks = *file.addMenu(localized("&Export Networks"));
+    m_exportAll = networks.addAction(localized("&All Networks..."), this,
+                                     &MainWindow::exportAllNetworksRequested);
+    m_exportDisplayed = networks.addAction(localized("&Displayed Networks..."), this,
+                                           &MainWindow::exportDisplayedNetworksRequested);
+    m_exportSelected = networks.addAction(localized("&Selected Networks..."), this,
+                                          &MainWindow::exportSelectedNetworksRequested);
+    file.addSeparator();
+    file.addAction(localized("E&xport Annotations..."), this,
+                   &MainWindow::exportAnnotationsRequested);
+    file.addAction(localized("&Import Annotations..."), this,
+                   &MainWindow::importAnnotationsRequested);
+}
+
+void MainWindow::makeEditMenu()
+{
+    QMenu& edit = *menuBar()->addMenu(localized("&Edit"));
+    QAction* copy = edit.addAction(localized("&Copy"), this, &MainWindow::onCopy);
+    copy->setShortcut(QKeySequence::Copy);
+    connect(qApp, &QApplication::focusChanged, copy, [this, copy](QWidget*, QWidget* now) {
+        if (now)
+            copy->setEnabled(now != m_sideView); // which copies nothing
+    });
+    edit.addSeparator();
+    QAction* editNote = edit.addAction(localized("Edit &Annotation"), m_networksView,
+                                       &TSNetworksView::editAnnotations);
+    editNote->setShortcut(QKeySequence(Qt::Key_F2));
+    connect(&edit, &QMenu::aboutToShow, editNote,
+            [this, editNote] { editNote->setEnabled(m_networksView->canEditAnnotations()); });
+    // The key asks the table.
+    connect(&edit, &QMenu::aboutToHide, editNote, [editNote] { editNote->setEnabled(true); });
+}
+
+/// A text field has a Copy of its own; anything else but the table has nothing to copy.
+void MainWindow::onCopy()
+{
+    if (const auto* field = qobject_cast<QLineEdit*>(focusWidget()))
+        field->copy();
+    else if (focusWidget() == m_networksView)
+        Q_EMIT copyRequested();
+}
+
 void MainWindow::makeFooter()
 {
     m_leftFooter = new ElidedLabel;
@@ -214,6 +264,13 @@ void MainWindow::setScanStopEnabled(bool canScan, bool canStop)
 {
     m_scan->setEnabled(canScan);
     m_stop->setEnabled(canStop);
+}
+
+void MainWindow::setExportEnabled(bool all, bool displayed, bool selected)
+{
+    m_exportAll->setEnabled(all);
+    m_exportDisplayed->setEnabled(displayed);
+    m_exportSelected->setEnabled(selected);
 }
 
 void MainWindow::setStateInfo(const StateInfo& info)

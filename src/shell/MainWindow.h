@@ -43,6 +43,8 @@ public:
     void setRightFooter(const QString& text);
     /// The threshold's message in the same place; none takes it away, and leaves others alone.
     void setThresholdFooter(const std::optional<QString>& text);
+    /// Which lists of networks hold something to export.
+    void setExportEnabled(bool all, bool displayed, bool selected);
     /// Shows which quick filter is chosen.
     void setQuickFilter(QuickFilter filter);
 
@@ -60,6 +62,15 @@ Q_SIGNALS:
     void filterChanged(const QString& line);
     /// @param value as `SignalThreshold` has it; 0 turns it off
     void filterUsingKeys(std::int64_t value);
+    /// The items of the File menu are about to be seen.
+    void fileMenuWillShow();
+    void exportAllNetworksRequested();
+    void exportDisplayedNetworksRequested();
+    void exportSelectedNetworksRequested();
+    void exportAnnotationsRequested();
+    void importAnnotationsRequested();
+    /// Copy, with the keyboard in the table.
+    void copyRequested();
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -68,10 +79,13 @@ private:
     void makeActions();
     void makeToolBar();
     void makeMenus();
+    void makeExchangeItems(QMenu& file);
+    void makeEditMenu();
     void makeQuickFilter();
     void makeFilter();
     void makeFooter();
     void setSideViewShown(bool shown);
+    void onCopy();
     void showAbout();
 
     QSplitter* m_splitter;
@@ -80,6 +94,9 @@ private:
     QAction* m_scan = nullptr;
     QAction* m_stop = nullptr;
     QAction* m_showSideView = nullptr;
+    QAction* m_exportAll = nullptr;
+    QAction* m_exportDisplayed = nullptr;
+    QAction* m_exportSelected = nullptr;
     IntervalMenu* m_intervalMenu = nullptr;
     ActivityIndicator* m_activityIndicator = nullptr;
     ElidedLabel* m_info = nullptr;

@@ -200,6 +200,14 @@ QSize NetworkCellDelegate::sizeHint(const QStyleOptionViewItem& option,
             rowHeight(QFontMetrics(option.font))};
 }
 
+void NetworkCellDelegate::updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
+                                               const QModelIndex&) const
+{
+    constexpr int kOwnMargin = 2; // pixels, of a line edit beside its text
+    editor->setGeometry(
+        option.rect.adjusted(kCellPadding + textMargin(option) - kOwnMargin, 0, 0, 0));
+}
+
 bool NetworkCellDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view,
                                     const QStyleOptionViewItem& option, const QModelIndex& index)
 {

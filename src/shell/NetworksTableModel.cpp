@@ -17,6 +17,12 @@ namespace {
 constexpr std::size_t kMaxSteps = 50;
 constexpr qsizetype kMaxIndexes = 16;
 
+bool isAnnotations(const QModelIndex& index)
+{
+    return columnRegistry()[static_cast<std::size_t>(index.column())].identifier ==
+           QLatin1String("ANNOTATIONS");
+}
+
 int rowOf(const NetworkList& networks, const NetworkPtr& network)
 {
     return static_cast<int>(std::ranges::find(networks, network) - networks.begin());
@@ -155,12 +161,30 @@ QVariant NetworksTableModel::data(const QModelIndex& index, int role) const
     switch (role) {
     case Qt::DisplayRole:
         return column.text(networkAt(index), m_context);
+    case Qt::EditRole:
+        return isAnnotations(index) ? networkAt(index).annotations() : QVariant();
     case Qt::TextAlignmentRole:
         return QVariant::fromValue(Qt::Alignment(
             Qt::AlignVCenter | (column.alignsRight ? Qt::AlignRight : Qt::AlignLeft)));
     default:
         return {};
     }
+}
+
+Qt::ItemFlags NetworksTableModel::flags(const QModelIndex& index) const
+{
+    const Qt::ItemFlags flags = QAbstractTableModel::flags(index);
+    const bool isEditable = m_annotationsEditable && index.isValid() && isAnnotations(index);
+    return isEditable ? flags | Qt::ItemIsEditable : flags;
+}
+
+bool NetworksTableModel::setData(const QModelIndex& index, const QVariant& value, int role)
+{
+    if (role != Qt::EditRole || !flags(index).testFlag(Qt::ItemIsEditable))
+        return false;
+    m_networks[static_cast<std::size_t>(index.row())]->setAnnotations(value.toString());
+    Q_EMIT dataChanged(index, index);
+    return true;
 }
 
 QVariant NetworksTableModel::headerData(int section, Qt::Orientation orientation, int role) const

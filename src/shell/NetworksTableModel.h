@@ -23,6 +23,9 @@ public:
     /// Shows these networks in this order, and reads every text anew.
     void setNetworks(const NetworkList& networks, const CellContext& context);
 
+    /// Whether the user may write notes.
+    void setAnnotationsEditable(bool editable) { m_annotationsEditable = editable; }
+
     const NetworkList& networks() const { return m_networks; }
     const CellContext& context() const { return m_context; }
     const TSNetwork& networkAt(const QModelIndex& index) const
@@ -38,6 +41,9 @@ public:
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
+    Qt::ItemFlags flags(const QModelIndex& index) const override;
+    /// Takes a note.
+    bool setData(const QModelIndex& index, const QVariant& value, int role) override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 private:
@@ -48,6 +54,7 @@ private:
 
     NetworkList m_networks;
     CellContext m_context;
+    bool m_annotationsEditable = false;
 };
 
 } // namespace tessara

@@ -47,6 +47,11 @@ bool canBeHidden(const Column& column)
     return column.cell != CellKind::kMarker && column.identifier != QLatin1String("BSSID");
 }
 
+const Column& annotationsColumn()
+{
+    return *columnWithIdentifier(u"ANNOTATIONS");
+}
+
 } // namespace
 
 TSNetworksView::TSNetworksView(QWidget* parent)
@@ -62,7 +67,7 @@ TSNetworksView::TSNetworksView(QWidget* parent)
     setAllColumnsShowFocus(true);
     setSelectionMode(ExtendedSelection);
     setVerticalScrollMode(ScrollPerPixel);
-    setEditTriggers(NoEditTriggers);
+    setEditTriggers(DoubleClicked);
     setFrameShape(QFrame::NoFrame);
     setItemDelegate(m_delegate);
     setModel(&m_model);
@@ -203,6 +208,49 @@ void TSNetworksView::selectionChanged(const QItemSelection& selected,
     Q_EMIT selectionDidChange();
 }
 
+std::vector<const NetworkRow*> TSNetworksView::selectedItems() const
+{
+    const std::vector<bool> isSelected = selectedRows();
+    std::vector<const NetworkRow*> items;
+    for (std::size_t row = 0; row < isSelected.size(); ++row) {
+        if (isSelected[row])
+            items.push_back(m_model.networks()[row].get());
+    }
+    return items;
+}
+
+// Notes -----------------------------------------------------------------------------------------
+
+/// The cell of the note that can be edited; invalid if there is none.
+QModelIndex TSNetworksView::editableNote() const
+{
+    const std::vector<bool> isSelected = selectedRows();
+    if (std::ranges::count(isSelected, true) != 1)
+        return {};
+    const auto row = std::ranges::find(isSelected, true) - isSelected.begin();
+    const QModelIndex note = m_model.index(static_cast<int>(row), indexOf(annotationsColumn()));
+    return note.flags().testFlag(Qt::ItemIsEditable) ? note : QModelIndex();
+}
+
+void TSNetworksView::editAnnotations()
+{
+    const QModelIndex note = editableNote();
+    if (!note.isValid())
+        return;
+    if (isColumnHidden(note.column()))
+        setColumnShown(note.column(), true);
+    scrollTo(note);
+    edit(note);
+}
+
+void TSNetworksView::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint)
+{
+    // Only one column can be edited: Tab leads to no next cell.
+    Q_UNUSED(hint)
+    QTreeView::closeEditor(editor, QAbstractItemDelegate::NoHint);
+    Q_EMIT didEndEditing();
+}
+
 // Columns ---------------------------------------------------------------------------------------
 
 void TSNetworksView::sectionDidResize(int column, int width)
@@ -250,13 +298,35 @@ int TSNetworksView::sizeHintForColumn(int column) const
     return widest + kRoomBesideContents;
 }
 
+std::vector<const Column*> TSNetworksView::tableColumnIdentifiers() const
+{
+    std::vector<const Column*> inOrder;
+    for (int place = 0; place < header()->count(); ++place)
+        inOrder.push_back(&columnOf(header()->logicalIndex(place)));
+    return inOrder;
+}
+
+std::vector<const Column*> TSNetworksView::visibleColumns() const
+{
+    std::vector<const Column*> visible = tableColumnIdentifiers();
+    std::erase_if(visible,
+                  [this](const Column* column) { return isColumnHidden(indexOf(*column)); });
+    return visible;
+}
+
+void TSNetworksView::setColumnShown(int column, bool shown)
+{
+    setColumnHidden(column, !shown);
+    Q_EMIT columnDidChangeHiddenState();
+}
+
 QByteArray TSNetworksView::layoutState() const
 {
     ColumnLayout layout{.sections = {}, .sortDescriptors = m_sortDescriptors};
-    for (int place = 0; place < header()->count(); ++place) {
-        const int column = header()->logicalIndex(place);
-        layout.sections.push_back({&columnOf(column), m_widths[static_cast<std::size_t>(column)],
-                                   isColumnHidden(column)});
+    for (const Column* column : tableColumnIdentifiers()) {
+        const int index = indexOf(*column);
+        layout.sections.push_back(
+            {column, m_widths[static_cast<std::size_t>(index)], isColumnHidden(index)});
     }
     return layout.toJson();
 }
@@ -298,10 +368,8 @@ void TSNetworksView::addColumnItems(QMenu& menu)
         item->setChecked(!isColumnHidden(index));
         item->setEnabled(canBeHidden(*column));
         item->setToolTip(localized(column->description));
-        connect(item, &QAction::toggled, this, [this, index](bool shown) {
-            setColumnHidden(index, !shown);
-            Q_EMIT columnDidChangeHiddenState();
-        });
+        connect(item, &QAction::toggled, this,
+                [this, index](bool shown) { setColumnShown(index, shown); });
     }
 }
 
@@ -357,6 +425,9 @@ void TSNetworksView::keyPressEvent(QKeyEvent* event)
         event->ignore(); // it never selects, not even by the space bar
     else if (event->key() == Qt::Key_Escape && selectionModel()->hasSelection())
         clearSelection();
+    else if ((event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) &&
+             !isColumnHidden(indexOf(annotationsColumn())))
+        editAnnotations();
     else
         QTreeView::keyPressEvent(event);
 }

@@ -36,6 +36,22 @@ public:
     /// clears the selection.
     void selectNetworks(const std::function<bool(const TSNetwork&)>& condition);
 
+    /// The selected rows from top to bottom, valid until the next list.
+    std::vector<const NetworkRow*> selectedItems() const;
+    const CellContext& context() const { return m_model.context(); }
+
+    /// All columns in the order of the table, hidden ones too.
+    std::vector<const Column*> tableColumnIdentifiers() const;
+    std::vector<const Column*> visibleColumns() const;
+
+    /// Whether the user may write notes into the table.
+    void setAnnotationsEditable(bool editable) { m_model.setAnnotationsEditable(editable); }
+    /// Opens the note of the selected network, and shows the column of notes if it is hidden. Does
+    /// nothing unless one network is selected and notes may be written.
+    void editAnnotations();
+    bool canEditAnnotations() const { return editableNote().isValid(); }
+    bool isEditing() const { return state() == EditingState; }
+
     /// The order of the rows that the user has asked for: the first rules, the others break ties.
     const std::vector<SortDescriptor>& sortDescriptors() const { return m_sortDescriptors; }
     /// Order, widths and hidden states of the columns and the order of the rows, to be stored.
@@ -51,6 +67,7 @@ Q_SIGNALS:
     void selectionDidChange();
     void sortDescriptorsDidChange();
     void columnDidChangeHiddenState();
+    void didEndEditing();
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -60,6 +77,7 @@ protected:
     int sizeHintForColumn(int column) const override;
     void selectionChanged(const QItemSelection& selected,
                           const QItemSelection& deselected) override;
+    void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
 
 private:
     void setUpHeader();
@@ -69,7 +87,9 @@ private:
     void sortIndicatorDidChange(int column, Qt::SortOrder order);
     void showSortIndicator();
     void showHeaderMenu(const QPoint& position);
+    void setColumnShown(int column, bool shown);
     std::vector<bool> selectedRows() const;
+    QModelIndex editableNote() const;
     void selectHighlightedNetworks();
 
     NetworksTableModel m_model;

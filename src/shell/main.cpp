@@ -1,6 +1,7 @@
 #include "foundation/Directories.h"
 #include "foundation/SettingsOptions.h"
 #include "foundation/TerminationSignals.h"
+#include "persistence/TSAnnotationsHelper.h"
 #include "persistence/TSVendorDatabaseHelper.h"
 #include "scanning/ScanRuntime.h"
 #include "scanning/StateInfo.h"
@@ -40,7 +41,9 @@ int main(int argc, char** argv)
     SystemWiFiService wifi(runtime.clock(), runtime.pause(), runtime.notifications());
     TSVendorDatabaseHelper& vendors = TSVendorDatabaseHelper::sharedDatabase();
     Directories::installed().vendors = &vendors;
-    AppDelegate delegate(wifi, vendors, runtime.engineServices());
+    TSAnnotationsHelper& annotations = TSAnnotationsHelper::sharedAnnotations();
+    Directories::installed().annotations = &annotations;
+    AppDelegate delegate(wifi, vendors, annotations, runtime.engineServices());
     const TerminationSignals signalsOfTheUser([&delegate] { delegate.terminate(); });
     QObject::connect(
         &delegate, &AppDelegate::didTerminate, &application, [] { QApplication::exit(0); },
