@@ -54,8 +54,8 @@ QByteArray richText(const QString& text)
             rtf.append('\\').append(static_cast<char>(c));
         else if (c >= u' ' && c <= u'~')
             rtf += static_cast<char>(c);
-        else // UTF-16, signed, and a character for readers that know no Unicode
-            rtf += "\\u" + QByteArray::number(static_cast<qint16>(c)) + '?';
+        else // UTF-16, signed, and a question mark for readers without Unicode
+            rtf += "\\u" + QByteArray::number(static_cast<qint16>(c)) + "\\'3f";
     }
     return rtf + "}\n";
 }
