@@ -4,10 +4,10 @@
 #include "persistence/PropertyList.h"
 #include "persistence/VendorIndex.h"
 #include "persistence/VendorsArchive.h"
+#include "persistence/WholeFile.h"
 
 #include <QDir>
 #include <QFileInfo>
-#include <QSaveFile>
 
 #include <algorithm>
 
@@ -22,17 +22,12 @@ bool expand(const QString& archivePath, const QString& path, QString& error)
     const auto archive = VendorsArchive::read(archivePath, error);
     if (!archive || !VendorTable::fromPropertyList(archive->propertyList, error))
         return false;
-    QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly) && file.write(archive->propertyList) >= 0 && file.flush()) {
-        // A date in the future would hold back every newer database.
-        if (archive->modified.isValid())
-            file.setFileTime(std::min(archive->modified, QDateTime::currentDateTime()),
-                             QFileDevice::FileModificationTime);
-        if (file.commit())
-            return true;
-    }
-    error = file.errorString();
-    return false;
+    // A date in the future would hold back every newer database.
+    error = writeWholeFile(path, archive->propertyList,
+                           archive->modified.isValid()
+                               ? std::min(archive->modified, QDateTime::currentDateTime())
+                               : QDateTime());
+    return error.isEmpty();
 }
 
 /// Like the system's call, over a file that may be there already.

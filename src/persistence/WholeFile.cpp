@@ -7,6 +7,22 @@
 
 namespace tessara {
 
+namespace {
+
+/// A disk that fills up takes a part; the reason comes with what follows.
+bool writeAll(QIODevice& file, QByteArrayView bytes)
+{
+    while (!bytes.isEmpty()) {
+        const qint64 written = file.write(bytes.data(), bytes.size());
+        if (written <= 0)
+            return false;
+        bytes = bytes.sliced(written);
+    }
+    return true;
+}
+
+} // namespace
+
 std::optional<QByteArray> readWholeFile(const QString& path, qint64 longest, QString& error)
 {
     const auto unreadable = [&](const QString& reason) {
@@ -27,11 +43,16 @@ std::optional<QByteArray> readWholeFile(const QString& path, qint64 longest, QSt
     return bytes;
 }
 
-QString writeWholeFile(const QString& path, const QByteArray& bytes)
+QString writeWholeFile(const QString& path, const QByteArray& bytes, const QDateTime& modified)
 {
     QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit())
-        return {};
+    // Without a buffer: commit() would put a file in its place whose last bytes found no room.
+    if (file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && writeAll(file, bytes)) {
+        if (modified.isValid())
+            file.setFileTime(modified, QFileDevice::FileModificationTime);
+        if (file.commit())
+            return {};
+    }
     return localized("%1: could not be written: %2").arg(path, file.errorString());
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QDateTime>
 #include <QString>
 
 #include <optional>
@@ -12,7 +13,9 @@ namespace tessara {
 std::optional<QByteArray> readWholeFile(const QString& path, qint64 longest, QString& error);
 
 /// Puts a file in its place whole, or leaves what stands there as it is.
+/// @param modified the date that the file is to have; now if it is none
 /// @return what went wrong, in one line that names the file, or empty
-QString writeWholeFile(const QString& path, const QByteArray& bytes);
+QString writeWholeFile(const QString& path, const QByteArray& bytes,
+                       const QDateTime& modified = {});
 
 } // namespace tessara

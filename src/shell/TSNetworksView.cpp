@@ -235,7 +235,7 @@ QModelIndex TSNetworksView::editableNote() const
 void TSNetworksView::editAnnotations()
 {
     const QModelIndex note = editableNote();
-    if (!note.isValid())
+    if (!note.isValid() || isEditing()) // the key that ends editing comes by here too
         return;
     if (isColumnHidden(note.column()))
         setColumnShown(note.column(), true);

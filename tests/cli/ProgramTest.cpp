@@ -89,6 +89,8 @@ TEST_F(ProgramTest, TellsHowItIsUsed)
         {"networks a.jsonl", 1, "", "a.jsonl"},
         {"networks a.doc", 1, "", ".pcapng"},
         {"convert a.jsonl b.txt", 2, "", "b.txt"},
+        {"convert a.jsonl b.csv", 1, "", "a.jsonl"},
+        {"networks a.jsonl --annotations none.plist", 1, "", "none.plist"},
         {"scan --duration -1", 2, "", "--duration"},
         {"scan --save out.txt", 2, "", "out.txt"},
         {"scan --watch --format json", 2, "", "--watch"},
@@ -202,7 +204,7 @@ TEST_F(ProgramTest, TakesNumbersThatNoRadioGives)
 TEST_F(ProgramTest, TellsWhenItsOutputIsLost)
 {
     write("two.jsonl", kTwoScans);
-    for (const char* format : {"table", "json"}) {
+    for (const char* format : {"table", "csv", "json"}) {
         const Outcome full = run(
             QStringLiteral("networks two.jsonl --format %1 >/dev/full").arg(QLatin1String(format)));
         EXPECT_EQ(full.exitCode, 1);
@@ -227,19 +229,20 @@ TEST_F(ProgramTest, ConvertsInACircle)
 
 TEST_F(ProgramTest, AFullDiskLosesNothing)
 {
-    for (const char* name : {"out.jsonl", "out.jsonl.gz"}) {
+    run(QStringLiteral("networks \"$RECORDING\"")); // installs the vendors' names
+    for (const char* name : {"out.jsonl", "out.jsonl.gz", "out.csv"}) {
         SCOPED_TRACE(name);
         write(name, "old");
-        // No file may grow beyond 50 KiB: writing fails as it does on a full disk.
+        // No file may grow beyond 10 KiB: writing fails as it does on a full disk.
         const Outcome outcome = run(QStringLiteral("convert \"$RECORDING\" ") + QLatin1String(name),
-                                    QStringLiteral("trap '' XFSZ; ulimit -f 50"));
+                                    QStringLiteral("trap '' XFSZ; ulimit -f 10"));
         EXPECT_EQ(outcome.exitCode, 1);
         EXPECT_EQ(outcome.err,
                   QStringLiteral("tessara-cli: %1: could not be written: File too large\n")
                       .arg(QLatin1String(name)));
         EXPECT_EQ(contents(name), "old");
     }
-    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files).size(), 2);
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files).size(), 3);
 }
 
 TEST_F(ProgramTest, ScansInRealTimeUntilTheDurationIsOverOrASignalComes)

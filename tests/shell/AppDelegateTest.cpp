@@ -1,17 +1,24 @@
 #include "shell/AppDelegate.h"
 
 #include "foundation/Defaults.h"
+#include "foundation/Directories.h"
 #include "scanning/ScriptedInterface.h"
 #include "shell/FilterField.h"
 #include "shell/IntervalMenu.h"
 #include "shell/TSNetworksView.h"
 #include "shell/TSSideView.h"
+#include "shell/TestNetworks.h"
 #include "support/ManualClock.h"
 
 #include <QAction>
+#include <QClipboard>
 #include <QComboBox>
+#include <QFileDialog>
 #include <QHeaderView>
+#include <QLineEdit>
 #include <QMessageBox>
+#include <QMimeData>
+#include <QProgressDialog>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QStatusBar>
@@ -50,12 +57,14 @@ class AppDelegateTest : public testing::Test {
 protected:
     AppDelegateTest()
     {
+        Directories::installed().annotations = &annotations;
         pause.shutDown = true; // one round of the engine's loop at each run of its body
         attachStore();
     }
     ~AppDelegateTest() override
     {
         delegate.reset();
+        Directories::installed() = {};
         Defaults::standard().attach(nullptr);
     }
 
@@ -69,9 +78,9 @@ protected:
     void launch()
     {
         delegate = std::make_unique<AppDelegate>(
-            service, vendors, EngineServices{clock, pause, notifications, [this](auto body) {
-                                                 bodies.push_back(std::move(body));
-                                             }});
+            service, vendors, annotations,
+            EngineServices{clock, pause, notifications,
+                           [this](auto body) { bodies.push_back(std::move(body)); }});
         delegate->applicationWillFinishLaunching();
         settle();
     }
@@ -101,6 +110,25 @@ protected:
         throw std::out_of_range(text);
     }
 
+    /// Answers the panel that a command has opened, and lets the work on the file end.
+    void choose(const QString& path)
+    {
+        auto* panel = window().findChild<QFileDialog*>();
+        ASSERT_NE(panel, nullptr);
+        panel->selectFile(path);
+        static_cast<QDialog*>(panel)->accept();
+        settle();
+        ASSERT_TRUE(QTest::qWaitFor([this] { return !window().findChild<QProgressDialog*>(); }));
+    }
+
+    QString cell(int row, QStringView identifier)
+    {
+        const auto column = columnWithIdentifier(identifier) - columnRegistry().data();
+        return table().model()->index(row, static_cast<int>(column)).data().toString();
+    }
+
+    QLineEdit* editor() { return table().viewport()->findChild<QLineEdit*>(); }
+
     QList<QMessageBox*> sheets() { return window().findChildren<QMessageBox*>(); }
 
     std::vector<std::string> names() const
@@ -119,6 +147,7 @@ protected:
     std::vector<std::function<void()>> bodies; ///< of the engines, the newest last
     TSVendorDatabaseHelper vendors{
         {.database = directory.filePath(QStringLiteral("vendors.plist"))}};
+    TSAnnotationsHelper annotations{directory.filePath(QStringLiteral("annotations.plist"))};
     std::unique_ptr<AppDelegate> delegate;
 };
 
@@ -327,4 +356,130 @@ TEST_F(AppDelegateTest, HidesTheFooterUntilTheFirstDelivery)
     engineScans({named("0:0:0:0:0:1", "Beta"), named("0:0:0:0:0:2", "alpha")});
     EXPECT_TRUE(footer->isVisible());
     EXPECT_EQ(footer->accessibleName(), QStringLiteral("Networks Found: 2, Displayed: 2 (100%)"));
+}
+
+TEST_F(AppDelegateTest, ExportsTheListThatIsAskedFor)
+{
+    launch();
+    Q_EMIT window().fileMenuWillShow();
+    EXPECT_FALSE(action("&All Networks...").isEnabled());
+    EXPECT_FALSE(action("&Displayed Networks...").isEnabled());
+    engineScans({named("0:0:0:0:0:1", "Zoo", 36), named("0:0:0:0:0:2", "Attic"),
+                 named("0:0:0:0:0:3", "Cellar")});
+    tick();
+    window().findChild<FilterField*>()->setText(QStringLiteral("2.4GHz"));
+    settle();
+    Q_EMIT window().fileMenuWillShow();
+    EXPECT_TRUE(action("&Displayed Networks...").isEnabled());
+    EXPECT_FALSE(action("&Selected Networks...").isEnabled());
+    table().selectNetworks([](const TSNetwork& each) { return each.ssid() == u"Cellar"; });
+    table().header()->moveSection(2, 1); // the name before the BSSID
+    Q_EMIT window().fileMenuWillShow();
+    EXPECT_TRUE(action("&Selected Networks...").isEnabled());
+
+    const std::pair<const char*, std::vector<const char*>> cases[] = {
+        {"&All Networks...", {"Network Name,BSSID,", "Zoo,", "Attic,", "Cellar,", ""}},
+        {"&Displayed Networks...", {"Network Name,BSSID,", "Attic,", "Cellar,", ""}},
+        {"&Selected Networks...", {"Network Name,BSSID,", "Cellar,00:00:00:00:00:03,", ""}},
+    };
+    for (const auto& [command, lines] : cases) {
+        SCOPED_TRACE(command);
+        QFile file(directory.filePath(QStringLiteral("out.csv")));
+        file.remove();
+        action(command).trigger();
+        choose(file.fileName());
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+        const QList<QByteArray> written = file.readAll().split('\n');
+        ASSERT_EQ(written.size(), static_cast<qsizetype>(lines.size()));
+        for (qsizetype i = 0; i < written.size(); ++i)
+            EXPECT_TRUE(written[i].startsWith(lines[static_cast<std::size_t>(i)]))
+                << written[i].constData();
+        EXPECT_EQ(written[0].count(','), static_cast<qsizetype>(columnRegistry().size()) - 2)
+            << "hidden columns too";
+    }
+}
+
+TEST_F(AppDelegateTest, ANoteIsWrittenInTheTableWhileTheScanGoesOn)
+{
+    launch();
+    engineScans({named("0:0:0:0:0:1", "Attic"), named("0:0:0:0:0:2", "Cellar")});
+    tick();
+    action("Edit &Annotation").trigger();
+    EXPECT_EQ(editor(), nullptr) << "of which network?";
+    table().selectNetworks([](const TSNetwork&) { return true; });
+    action("Edit &Annotation").trigger();
+    EXPECT_EQ(editor(), nullptr);
+
+    table().selectNetworks([](const TSNetwork& each) { return each.ssid() == u"Cellar"; });
+    action("Edit &Annotation").trigger();
+    ASSERT_NE(editor(), nullptr) << "the column shows itself";
+    QTest::keyClicks(editor(), QStringLiteral(" damp, dark "));
+    NetworkList networks = delegate->scanCycle().networks();
+    networks.push_back(testNetwork(3)); // "Net 3"
+    delegate->scanCycle().didFindNetworks(networks, clock.now());
+    settle();
+    EXPECT_EQ(table().model()->rowCount(), 2) << "nothing moves under the text";
+    ASSERT_NE(editor(), nullptr);
+    QTest::keyClick(editor(), Qt::Key_Return);
+    settle();
+    EXPECT_EQ(table().model()->rowCount(), 3);
+    EXPECT_EQ(cell(1, u"ANNOTATIONS"), QStringLiteral("damp, dark"));
+    TSAnnotationsHelper onDisk(directory.filePath(QStringLiteral("annotations.plist")));
+    EXPECT_EQ(onDisk.load(), QString());
+    EXPECT_EQ(onDisk.annotationsForNetwork(QStringLiteral("00:00:00:00:00:02")),
+              QStringLiteral("damp, dark"));
+
+    QTest::keyClick(&table(), Qt::Key_Return); // opens it by the keyboard too
+    ASSERT_NE(editor(), nullptr);
+    EXPECT_EQ(editor()->text(), QStringLiteral("damp, dark"));
+    QTest::keyClicks(editor(), QStringLiteral("x"));
+    QTest::keyClick(editor(), Qt::Key_Escape);
+    settle();
+    EXPECT_EQ(editor(), nullptr);
+    EXPECT_EQ(cell(1, u"ANNOTATIONS"), QStringLiteral("damp, dark"));
+}
+
+TEST_F(AppDelegateTest, TakesNotesFromAFileAndGivesThemBack)
+{
+    launch();
+    engineScans({named("a:b:c:d:e:f", "Attic")});
+    tick();
+    EXPECT_EQ(cell(0, u"ANNOTATIONS"), QString());
+    QFile file(directory.filePath(QStringLiteral("notes.csv")));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("0a:0b:0c:0d:0e:0f,\"damp, dark\"\n");
+    file.close();
+    action("&Import Annotations...").trigger();
+    choose(file.fileName());
+    EXPECT_EQ(cell(0, u"ANNOTATIONS"), QStringLiteral("damp, dark"));
+
+    QFile copy(directory.filePath(QStringLiteral("copy.csv")));
+    action("E&xport Annotations...").trigger();
+    choose(copy.fileName());
+    ASSERT_TRUE(copy.open(QIODevice::ReadOnly));
+    EXPECT_EQ(copy.readAll(), QByteArray("0A:0B:0C:0D:0E:0F,\"damp, dark\"\n"));
+}
+
+TEST_F(AppDelegateTest, CopiesTheSelectedRowsWithTheKeyboardInTheTable)
+{
+    launch();
+    engineScans({named("0:0:0:0:0:1", "Attic"), named("0:0:0:0:0:2", "Cellar")});
+    tick();
+    QClipboard& clipboard = *QGuiApplication::clipboard();
+    clipboard.setText(QStringLiteral("old"));
+    const auto copied = [&](QWidget& focus) {
+        focus.setFocus();
+        action("&Copy").trigger();
+        return clipboard.text();
+    };
+    EXPECT_EQ(copied(table()), QStringLiteral("old")) << "nothing is selected";
+    table().selectNetworks([](const TSNetwork&) { return true; });
+    auto& filter = *window().findChild<FilterField*>();
+    EXPECT_EQ(copied(filter), QStringLiteral("old"));
+    const QString text = copied(table());
+    EXPECT_TRUE(text.startsWith(QStringLiteral("BSSID: 00:00:00:00:00:01\nNetwork Name: Attic\n")))
+        << text.toStdString();
+    EXPECT_EQ(text.count(QStringLiteral("\n\nBSSID: ")), 1);
+    EXPECT_FALSE(text.contains(QStringLiteral("Noise"))) << "a hidden column";
+    EXPECT_TRUE(clipboard.mimeData()->hasFormat(QStringLiteral("text/rtf")));
 }
