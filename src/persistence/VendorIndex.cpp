@@ -1,9 +1,10 @@
 #include "persistence/VendorIndex.h"
 
+#include "persistence/WholeFile.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 
 #include <bit>
 #include <cstring>
@@ -77,9 +78,7 @@ std::optional<VendorTable> readVendorIndex(const QString& path, const FileVersio
 bool writeVendorIndex(const QString& path, const FileVersion& list, const VendorTable& table)
 {
     QDir().mkpath(QFileInfo(path).path());
-    QSaveFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(vendorIndex(list, table)) >= 0 &&
-           file.commit();
+    return writeWholeFile(path, vendorIndex(list, table)).isEmpty();
 }
 
 } // namespace tessara

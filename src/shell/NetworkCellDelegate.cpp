@@ -149,6 +149,15 @@ void NetworkCellDelegate::initStyleOption(QStyleOptionViewItem* option,
         option->palette.setColor(QPalette::Text, grayed(option->palette));
 }
 
+QString NetworkCellDelegate::displayText(const QVariant& value, const QLocale&) const
+{
+    constexpr QStringView kLineBreaks = u"\n\v\f\r\u0085\u2028\u2029";
+    QString text = value.toString();
+    std::ranges::replace_if(
+        text, [&](QChar c) { return kLineBreaks.contains(c); }, u' ');
+    return text;
+}
+
 void NetworkCellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                                 const QModelIndex& index) const
 {

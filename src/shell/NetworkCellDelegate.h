@@ -23,6 +23,8 @@ public:
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
                const QModelIndex& index) const override;
+    /// On one line: a name or a note may hold line breaks.
+    QString displayText(const QVariant& value, const QLocale& locale) const override;
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
     /// Puts the editor's text where the cell's text is.
     void updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,

@@ -437,6 +437,14 @@ TEST_F(AppDelegateTest, ANoteIsWrittenInTheTableWhileTheScanGoesOn)
     settle();
     EXPECT_EQ(editor(), nullptr);
     EXPECT_EQ(cell(1, u"ANNOTATIONS"), QStringLiteral("damp, dark"));
+
+    action("Edit &Annotation").trigger();
+    QTest::keyClicks(editor(), QStringLiteral("wet"));
+    window().close();
+    EXPECT_EQ(onDisk.load(), QString());
+    EXPECT_EQ(onDisk.annotationsForNetwork(QStringLiteral("00:00:00:00:00:02")),
+              QStringLiteral("wet"))
+        << "the end of the program does not cost the note";
 }
 
 TEST_F(AppDelegateTest, TakesNotesFromAFileAndGivesThemBack)
