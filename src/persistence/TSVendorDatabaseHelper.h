@@ -20,9 +20,9 @@ namespace tessara {
 class TSVendorDatabaseHelper final : public VendorDirectory {
 public:
     struct Paths {
-        QString database;  ///< the user's vendors.plist
-        QString seed = {}; ///< the vendors.plist.zip that the program is installed with
-        QString urls = {}; ///< a property list from a vendor's name to the address of its web site
+        QString database;   ///< the user's vendors.plist
+        QString seed = {};  ///< the vendors.plist.zip that the program is installed with
+        QString urls = {};  ///< a property list from a vendor's name to the address of its web site
         QString index = {}; ///< where the compact form of the database is kept; none if empty
 
         /// Those of the user who runs the program.

@@ -301,6 +301,7 @@ int TSNetworksView::sizeHintForColumn(int column) const
 std::vector<const Column*> TSNetworksView::tableColumnIdentifiers() const
 {
     std::vector<const Column*> inOrder;
+    inOrder.reserve(columns().size());
     for (int place = 0; place < header()->count(); ++place)
         inOrder.push_back(&columnOf(header()->logicalIndex(place)));
     return inOrder;
