@@ -228,7 +228,7 @@ void AppDelegate::terminate()
 
 void AppDelegate::applicationWillTerminate()
 {
-    m_window.networksView().setFocus(); // takes a note that is being written
+    m_window.networksView().endEditing();
     m_annotations.saveToDisk();
     Defaults& defaults = Defaults::standard();
     defaults.disconnect(this);

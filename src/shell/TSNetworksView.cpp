@@ -239,8 +239,18 @@ void TSNetworksView::editAnnotations()
         return;
     if (isColumnHidden(note.column()))
         setColumnShown(note.column(), true);
+    selectionModel()->setCurrentIndex(note, QItemSelectionModel::NoUpdate);
     scrollTo(note);
     edit(note);
+}
+
+void TSNetworksView::endEditing()
+{
+    QWidget* editor = isEditing() ? indexWidget(currentIndex()) : nullptr;
+    if (!editor)
+        return;
+    commitData(editor);
+    closeEditor(editor, QAbstractItemDelegate::NoHint);
 }
 
 void TSNetworksView::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint)

@@ -51,6 +51,8 @@ public:
     void editAnnotations();
     bool canEditAnnotations() const { return editableNote().isValid(); }
     bool isEditing() const { return state() == EditingState; }
+    /// Takes the note that is being written.
+    void endEditing();
 
     /// The order of the rows that the user has asked for: the first rules, the others break ties.
     const std::vector<SortDescriptor>& sortDescriptors() const { return m_sortDescriptors; }
