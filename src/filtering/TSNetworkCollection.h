@@ -18,7 +18,7 @@ public:
 
     /// The title of the group.
     const QString& name() const { return m_name; }
-    bool isUserHighlighted() const { return m_userHighlighted; }
+    bool isUserHighlighted() const override { return m_userHighlighted; }
     void setUserHighlighted(bool highlighted) { m_userHighlighted = highlighted; }
 
     /// The text in place of values that differ.

@@ -15,6 +15,9 @@ class NetworkRow {
 public:
     virtual ~NetworkRow() = default;
 
+    /// The user has selected the row.
+    virtual bool isUserHighlighted() const = 0;
+
     virtual QString bssidValue() const = 0;
     virtual QString ssidValue() const = 0;
     virtual QString deviceNameValue() const = 0;

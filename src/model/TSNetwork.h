@@ -184,8 +184,14 @@ public:
     void setColor(const QColor& color) { m_color = color; }
     bool isUserHidden() const { return m_userHidden; }
     void setUserHidden(bool hidden) { m_userHidden = hidden; }
-    bool isUserHighlighted() const { return m_userHighlighted; }
+    bool isUserHighlighted() const override { return m_userHighlighted; }
     void setUserHighlighted(bool highlighted) { m_userHighlighted = highlighted; }
+    /// The row that shows this network together with others, while there is one.
+    std::shared_ptr<const NetworkRow> parentCollection() const { return m_parentCollection.lock(); }
+    void setParentCollection(std::weak_ptr<const NetworkRow> row)
+    {
+        m_parentCollection = std::move(row);
+    }
     bool isAssociated() const { return m_associated; }
     void setAssociated(bool associated) { m_associated = associated; }
 
@@ -279,6 +285,7 @@ private:
     mutable std::optional<QString> m_annotations;
 
     QColor m_color;
+    std::weak_ptr<const NetworkRow> m_parentCollection; ///< which owns its members
     bool m_loadedFromFile = false;
     bool m_userHidden = false;
     bool m_userHighlighted = false;

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "charts/ChartScale.h"
+#include "charts/WindowScale.h"
+
+#include <QColor>
+
+class QPainter;
+
+namespace tessara {
+
+/// What the frame of a chart shows.
+struct ChartFrame {
+    Metric metric = Metric::kSignal;
+    bool leftLabels = true;
+    bool rightLabels = false;
+    /// Every second mark only, and in a low chart no line without a label.
+    bool isSparse = false;
+};
+
+/// Paints the ground of a chart, its grid, its border and the labels of its values.
+void drawChartFrame(QPainter& painter, const ChartScale& scale, const ChartFrame& frame,
+                    const WindowScale& window);
+
+/// Paints the times below a chart.
+/// @param origin the left end of the axis, and where the baselines of its texts lie
+/// @param fontSize points
+/// @param isNow whether the right edge is told as "Now"
+void drawXAxisMarks(QPainter& painter, const ChartScale& scale, const QPointF& origin,
+                    double fontSize, bool isNow);
+
+} // namespace tessara

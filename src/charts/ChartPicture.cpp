@@ -1,0 +1,91 @@
+#include "charts/ChartPicture.h"
+
+#include <QBuffer>
+#include <QDateTime>
+#include <QDir>
+#include <QDrag>
+#include <QPixmap>
+#include <QSaveFile>
+#include <QUrl>
+#include <QWidget>
+
+namespace tessara {
+
+namespace {
+
+const QString kTiff = QStringLiteral("image/tiff");
+const QString kPng = QStringLiteral("image/png");
+const QString kFile = QStringLiteral("text/uri-list");
+
+QByteArray encoded(const QImage& image, const char* format)
+{
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    return image.save(&buffer, format) ? bytes : QByteArray();
+}
+
+} // namespace
+
+ChartPicture::ChartPicture(QImage image, QString file)
+    : m_image(std::move(image))
+    , m_file(std::move(file))
+{
+}
+
+QStringList ChartPicture::formats() const
+{
+    return {kTiff, kPng, kFile};
+}
+
+bool ChartPicture::hasFormat(const QString& mimeType) const
+{
+    return formats().contains(mimeType);
+}
+
+QVariant ChartPicture::retrieveData(const QString& mimeType, QMetaType /*type*/) const
+{
+    if (!hasFormat(mimeType))
+        return {};
+    // A receiver may read what it has got more than once.
+    if (m_givenType.isEmpty()) {
+        m_givenType = mimeType;
+        m_given = made(mimeType);
+        m_image = {};
+    }
+    return mimeType == m_givenType ? QVariant(m_given) : QVariant();
+}
+
+QByteArray ChartPicture::made(const QString& mimeType) const
+{
+    if (mimeType == kTiff)
+        return encoded(m_image, "tiff");
+    const QByteArray png = encoded(m_image, "png");
+    if (mimeType == kPng)
+        return png;
+    QSaveFile file(m_file);
+    if (!file.open(QIODevice::WriteOnly) || file.write(png) != png.size() || !file.commit())
+        return {};
+    return QUrl::fromLocalFile(m_file).toEncoded() + "\r\n";
+}
+
+QString chartPictureName(double time)
+{
+    return QStringLiteral("tessara_%1.png")
+        .arg(QDateTime::fromMSecsSinceEpoch(static_cast<qint64>(time * 1000))
+                 .toString(QStringLiteral("yyyyMMdd_HHmmss")));
+}
+
+void dragChartPicture(const QImage& image, const QString& file, QWidget& view)
+{
+    constexpr double kShownSize = 0.75;
+    QPixmap shown = QPixmap::fromImage(
+        image.scaled(image.size() * kShownSize, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+    shown.setDevicePixelRatio(image.devicePixelRatio());
+    auto* drag = new QDrag(&view);
+    drag->setMimeData(new ChartPicture(image, file));
+    drag->setPixmap(shown);
+    drag->setHotSpot(QRectF({}, shown.deviceIndependentSize()).center().toPoint());
+    drag->exec(Qt::CopyAction);
+}
+
+} // namespace tessara

@@ -1,0 +1,43 @@
+#include "charts/PaintingOrder.h"
+
+#include <algorithm>
+#include <iterator>
+#include <ranges>
+
+namespace tessara {
+
+PaintingOrder paintingOrder(const NetworkList& networks)
+{
+    NetworkList sorted = networks;
+    std::ranges::stable_sort(sorted, std::ranges::greater(), [](const NetworkPtr& network) {
+        return network->rssiStatistic().avg;
+    });
+    // The others turn round; the selected ones keep the order of their averages.
+    PaintingOrder order;
+    order.networks.reserve(sorted.size());
+    for (const NetworkPtr& network : sorted | std::views::reverse) {
+        if (!isHighlighted(*network))
+            order.networks.push_back(network);
+    }
+    for (const NetworkPtr& network : sorted) {
+        if (!isHighlighted(*network))
+            continue;
+        order.networks.push_back(network);
+        if (network->isUserHighlighted())
+            order.highlighted.push_back(network);
+    }
+    return order;
+}
+
+bool isHighlighted(const TSNetwork& network)
+{
+    return network.isUserHighlighted() || isCollectionHighlighted(network);
+}
+
+bool isCollectionHighlighted(const TSNetwork& network)
+{
+    const auto collection = network.parentCollection();
+    return collection && collection->isUserHighlighted();
+}
+
+} // namespace tessara
