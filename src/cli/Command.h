@@ -21,6 +21,7 @@ struct Command {
     void (*addOptions)(QCommandLineParser& parser);
     /// @param arguments what stands on the command line besides options, without the name
     ExitStatus (*run)(const QCommandLineParser& parser, const QStringList& arguments);
+    bool paints = false; ///< it needs fonts, which cost time to load
 };
 
 std::span<const Command> commands();
@@ -31,6 +32,7 @@ extern const Command kElementsCommand;
 extern const Command kConvertCommand;
 extern const Command kScanCommand;
 extern const Command kInterfacesCommand;
+extern const Command kChartCommand;
 
 /// Writes all that was printed to where standard output goes.
 /// @return kDone, or kFailed with a complaint if that failed

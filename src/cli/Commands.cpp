@@ -8,8 +8,8 @@ namespace tessara {
 
 std::span<const Command> commands()
 {
-    static const Command all[] = {kNetworksCommand, kElementsCommand, kConvertCommand, kScanCommand,
-                                  kInterfacesCommand};
+    static const Command all[] = {kNetworksCommand, kElementsCommand,   kConvertCommand,
+                                  kScanCommand,     kInterfacesCommand, kChartCommand};
     return all;
 }
 

@@ -1,3 +1,4 @@
+#include "charts/OffscreenApplication.h"
 #include "cli/Command.h"
 #include "cli/DirectoryOptions.h"
 #include "cli/Terminal.h"
@@ -8,6 +9,7 @@
 
 #include <algorithm>
 #include <csignal>
+#include <memory>
 #include <new>
 
 using namespace tessara;
@@ -61,14 +63,19 @@ int main(int argc, char** argv)
     setUpCharacterWidths();
     // A reader that goes away is told by a failed write; what is being recorded is still saved.
     std::signal(SIGPIPE, SIG_IGN);
-    const QCoreApplication application(argc, argv);
+    const QString name = QString::fromLocal8Bit(argc > 1 ? argv[1] : "");
+    const auto found = std::ranges::find(
+        commands(), name, [](const Command& command) { return QString::fromLatin1(command.name); });
+    const bool paints = found != commands().end() && found->paints;
+    const std::unique_ptr<QCoreApplication> application =
+        paints ? makeOffscreenApplication(argc, argv)
+               : std::make_unique<QCoreApplication>(argc, argv);
     QCoreApplication::setOrganizationName(QStringLiteral("Tessara"));
     QCoreApplication::setApplicationName(QStringLiteral("tessara"));
     QCoreApplication::setApplicationVersion(QStringLiteral(TESSARA_VERSION));
     qSetMessagePattern(QStringLiteral("tessara-cli: %{message}"));
 
     const QStringList words = QCoreApplication::arguments();
-    const QString name = words.value(1);
     if (name == QLatin1String("--version") || name == QLatin1String("-v")) {
         QTextStream(stdout) << "tessara-cli " << TESSARA_VERSION << '\n';
         return kDone;
@@ -79,8 +86,6 @@ int main(int argc, char** argv)
         printCommands(out);
         return kDone;
     }
-    const auto found = std::ranges::find(
-        commands(), name, [](const Command& command) { return QString::fromLatin1(command.name); });
     if (found == commands().end()) {
         return wrongUsage(name.isEmpty() ? QStringLiteral("which command?")
                                          : QStringLiteral("there is no command '%1'").arg(name));
