@@ -1,0 +1,139 @@
+#include "charts/HoverSearch.h"
+#include "charts/OffscreenApplication.h"
+#include "charts/TSSignalStrengthView.h"
+
+#include <QImage>
+#include <QPainter>
+#include <QPolygonF>
+
+#include <benchmark/benchmark.h>
+
+#include <random>
+
+using namespace tessara;
+
+namespace {
+
+constexpr double kReferenceTime = 1'700'000'000;
+constexpr int kNetworks = 200;
+constexpr int kHour = 3600; // seconds
+constexpr QSize kSize(1100, 735);
+
+/// Networks whose signals wander, with a sample every two seconds.
+/// @param seconds how long they have been seen
+NetworkList wanderingNetworks(int seconds)
+{
+    std::mt19937 random(1);
+    NetworkList networks;
+    for (int number = 0; number < kNetworks; ++number) {
+        ScanDictionary dictionary;
+        dictionary.bssid = QStringLiteral("02:00:00:00:00:%1").arg(number, 2, 16, QLatin1Char('0'));
+        dictionary.ssid = QStringLiteral("Net %1").arg(number);
+        dictionary.channelNumber = 36;
+        auto network = std::make_shared<TSNetwork>(dictionary, kReferenceTime);
+        int rssi = std::uniform_int_distribution(-90, -40)(random);
+        for (int age = seconds; age > 0; age -= 2) {
+            rssi = std::clamp(rssi + std::uniform_int_distribution(-2, 2)(random), -95, -25);
+            network->addDataPoint({rssi, -92, -1, -1, kReferenceTime - age});
+        }
+        networks.push_back(std::move(network));
+    }
+    return networks;
+}
+
+/// The chart of networks, an hour wide.
+std::unique_ptr<TSSignalStrengthView> chartOf(const Clock& clock, const NetworkList& networks)
+{
+    auto chart = std::make_unique<TSSignalStrengthView>(clock);
+    chart->resize(kSize);
+    chart->setTimescale(kHour);
+    chart->setUnits(Units::kDBm);
+    chart->setReferenceTime(kReferenceTime);
+    chart->setNetworks(networks);
+    return chart;
+}
+
+QImage blankImage()
+{
+    QImage image(kSize, QImage::Format_RGB32);
+    image.fill(Qt::black);
+    return image;
+}
+
+/// A repaint of the chart: 200 networks, an hour of samples, 360,000 points.
+/// @param state its range is the seconds of history, of which an hour is visible
+void signalChart(benchmark::State& state)
+{
+    const SystemClock clock;
+    const auto chart = chartOf(clock, wanderingNetworks(static_cast<int>(state.range(0))));
+    QImage image = blankImage();
+    for (auto _ : state) {
+        QPainter painter(&image);
+        chart->paint(painter);
+    }
+    state.counters["points"] = kNetworks * kHour / 2;
+}
+
+/// What a painter takes for polylines of as many points, and nothing else.
+void barePolylines(benchmark::State& state)
+{
+    std::vector<std::pair<QPen, QPolygonF>> lines;
+    const ChartScale scale{.rect = {45, 30, 880, 670},
+                           .topMargin = 73,
+                           .units = Units::kDBm,
+                           .referenceTime = kReferenceTime,
+                           .timescale = kHour};
+    for (const NetworkPtr& network : wanderingNetworks(kHour)) {
+        QColor color = network->color();
+        color.setAlphaF(0.8F);
+        QPolygonF line;
+        for (const TSDataPoint& sample : network->history())
+            line.append(scale.makePointInRect(sample, Metric::kSignal));
+        lines.emplace_back(QPen(color, 2, Qt::SolidLine, Qt::RoundCap, Qt::BevelJoin),
+                           std::move(line));
+    }
+    QImage image = blankImage();
+    for (auto _ : state) {
+        QPainter painter(&image);
+        painter.setRenderHint(QPainter::Antialiasing);
+        for (const auto& [pen, line] : lines) {
+            painter.setPen(pen);
+            painter.drawPolyline(line);
+        }
+    }
+    state.counters["points"] = kNetworks * kHour / 2;
+}
+
+/// The search for the sample under the mouse among all of them.
+void hover(benchmark::State& state)
+{
+    const NetworkList networks = wanderingNetworks(static_cast<int>(state.range(0)));
+    const ChartScale scale{.rect = {45, 30, 880, 670},
+                           .topMargin = 73,
+                           .units = Units::kDBm,
+                           .referenceTime = kReferenceTime,
+                           .timescale = kHour};
+    double x = 45;
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(nearestSample(networks, scale, {x, 300}, HoverDistance::kInPlane));
+        x = x < 900 ? x + 7 : 45;
+    }
+}
+
+BENCHMARK(barePolylines)->Unit(benchmark::kMillisecond);
+BENCHMARK(signalChart)
+    ->ArgName("history")
+    ->Arg(kHour)
+    ->Arg(18 * kHour)
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK(hover)->ArgName("history")->Arg(kHour)->Arg(18 * kHour)->Unit(benchmark::kMicrosecond);
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const auto application = makeOffscreenApplication(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}
