@@ -39,6 +39,7 @@ std::vector<DefaultEntry> makeTable()
         {SelectedTabViewIdentifier, Type::QString, none},
         {SideViewExpandedItems, Type::QStringList, none},
         {HorizontalSplitView, Type::QByteArray, none},
+        {VerticalSplitView, Type::QByteArray, none},
         {RanOnce, Type::Bool, none},
         {WindowFrame, Type::QByteArray, none},
         {LastLaunchedVersion, Type::QString, none},

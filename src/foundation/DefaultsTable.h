@@ -35,6 +35,7 @@ TESSARA_DEFAULT_KEY(ShowNetworkLabel);
 TESSARA_DEFAULT_KEY(SelectedTabViewIdentifier);
 TESSARA_DEFAULT_KEY(SideViewExpandedItems);
 TESSARA_DEFAULT_KEY(HorizontalSplitView);
+TESSARA_DEFAULT_KEY(VerticalSplitView);
 TESSARA_DEFAULT_KEY(RanOnce);
 TESSARA_DEFAULT_KEY(WindowFrame);
 TESSARA_DEFAULT_KEY(LastLaunchedVersion);

@@ -3,6 +3,7 @@
 #include "foundation/Defaults.h"
 #include "foundation/Localized.h"
 #include "shell/ActivityIndicator.h"
+#include "shell/GraphTabs.h"
 #include "shell/IntervalMenu.h"
 #include "shell/TSNetworksView.h"
 #include "shell/TSSideView.h"
@@ -31,7 +32,8 @@ const FontSizeRange kFontSizes[] = {
 
 AppDelegate::AppDelegate(WiFiService& wifi, TSVendorDatabaseHelper& vendors,
                          TSAnnotationsHelper& annotations, EngineServices services)
-    : m_scanCycle(chooseInterface(wifi), services, *this, m_prompt)
+    : m_window(services.clock)
+    , m_scanCycle(chooseInterface(wifi), services, *this, m_prompt)
     , m_clock(services.clock)
     , m_vendors(vendors)
     , m_annotations(annotations)
@@ -76,6 +78,8 @@ void AppDelegate::connectParts(NotificationCenter& notifications)
             &Exchange::onFileAnnotationsImportCSV);
     connect(&m_window, &MainWindow::copyRequested, &m_exchange, &Exchange::copy);
     connect(&m_exchange, &Exchange::annotationsDidChange, this, &AppDelegate::configureAll);
+    connect(&table, &TSNetworksView::selectionDidChange, this,
+            &AppDelegate::configureSelectedTabView);
 
     const TSSideView& sideView = m_window.sideView();
     connect(&sideView, &TSSideView::selectionDidChange, this,
@@ -113,6 +117,9 @@ void AppDelegate::applicationWillFinishLaunching()
         Defaults::standard().value(DefaultKey::NetworksTable).toByteArray());
     m_window.restoreSplitter(
         Defaults::standard().value(DefaultKey::HorizontalSplitView).toByteArray());
+    m_window.restoreTabsSplitter(
+        Defaults::standard().value(DefaultKey::VerticalSplitView).toByteArray());
+    m_window.graphTabs().loadDefaults();
     m_window.sideView().setExpandedItems(
         Defaults::standard().value(DefaultKey::SideViewExpandedItems).toStringList());
     prepareAndReload();
@@ -245,6 +252,8 @@ void AppDelegate::saveDefaults()
     Defaults& defaults = Defaults::standard();
     defaults.setValue(DefaultKey::NetworksTable, m_window.networksView().layoutState());
     defaults.setValue(DefaultKey::HorizontalSplitView, m_window.splitterState());
+    defaults.setValue(DefaultKey::VerticalSplitView, m_window.tabsSplitterState());
+    m_window.graphTabs().saveDefaults();
     defaults.setValue(DefaultKey::SideViewExpandedItems, m_window.sideView().expandedItems());
 }
 
@@ -354,6 +363,7 @@ bool AppDelegate::hasUnsavedResults() const
 void AppDelegate::configureAll()
 {
     configureNetworksView();
+    configureSelectedTabView();
     m_window.setLeftFooter(m_pipeline.footerText());
     updateStateInfo();
 }
@@ -381,6 +391,16 @@ void AppDelegate::configureNetworksView()
     table.setFilteredColumns(m_pipeline.filteredColumnIdentifiers());
     table.setNetworks(m_pipeline.filteredNetworks(),
                       CellContext::fromDefaults(m_scanCycle.isScanning()));
+}
+
+void AppDelegate::configureSelectedTabView()
+{
+    m_window.graphTabs().configureSelectedTabView(m_pipeline.filteredNetworks());
+}
+
+void AppDelegate::setReferenceTime(double time)
+{
+    m_window.graphTabs().setReferenceTime(time);
 }
 
 void AppDelegate::selectAssociatedNetworks()

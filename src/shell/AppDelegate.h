@@ -45,6 +45,7 @@ private:
     void filterAndSetNetworks(const NetworkList& networks) override;
     void prepareAndReload() override;
     void configureAll() override;
+    void setReferenceTime(double time) override;
     void selectAssociatedNetworks() override;
     void updateStateInfo() override;
     void updateWindowTitle() override;
@@ -67,6 +68,7 @@ private:
     void showNoInterfaceAlert();
     void checkVendorsDatabaseLater();
     void configureNetworksView();
+    void configureSelectedTabView();
     void configureSideView();
     void sideViewSelectionDidChange(const std::optional<TSSideViewItem>& item);
     void userDidClickSourceList();

@@ -7,6 +7,7 @@
 #include "shell/ElidedLabel.h"
 #include "shell/FilterField.h"
 #include "shell/GlyphIcon.h"
+#include "shell/GraphTabs.h"
 #include "shell/IntervalMenu.h"
 #include "shell/TSNetworksView.h"
 #include "shell/TSSideView.h"
@@ -33,6 +34,8 @@ namespace {
 
 constexpr QSize kFreshSize(1100, 735);
 constexpr QSize kSmallestSize(760, 400); // the toolbar fits
+constexpr int kSmallestTable = 100;      // height
+constexpr int kFreshTabs = 400;          // height
 constexpr int kFooterMargin = 6;
 constexpr double kFirstRunWidth = 0.9;
 constexpr double kFirstRunHeight = 0.85;
@@ -63,13 +66,21 @@ std::optional<std::int64_t> thresholdOf(const QKeyEvent& event)
 
 } // namespace
 
-MainWindow::MainWindow()
+MainWindow::MainWindow(const Clock& clock)
     : m_splitter(new QSplitter)
+    , m_tabsSplitter(new QSplitter(Qt::Vertical))
     , m_sideView(new TSSideView)
     , m_networksView(new TSNetworksView)
+    , m_graphTabs(new GraphTabs(clock))
 {
+    m_networksView->setMinimumHeight(kSmallestTable);
+    m_tabsSplitter->addWidget(m_networksView);
+    m_tabsSplitter->addWidget(m_graphTabs);
+    m_tabsSplitter->setStretchFactor(0, 1); // a larger window is for the table
+    m_tabsSplitter->setStretchFactor(1, 0);
+    m_tabsSplitter->setCollapsible(0, false);
     m_splitter->addWidget(m_sideView);
-    m_splitter->addWidget(m_networksView);
+    m_splitter->addWidget(m_tabsSplitter);
     m_splitter->setStretchFactor(1, 1); // the table takes the room there is
     m_splitter->setCollapsible(1, false);
     setCentralWidget(m_splitter);
@@ -85,6 +96,7 @@ MainWindow::MainWindow()
     m_networksView->setFocus();
     m_networksView->installEventFilter(this);
     installEventFilter(this);
+    installEventFilter(m_graphTabs);
 }
 
 void MainWindow::makeActions()
@@ -189,6 +201,14 @@ void MainWindow::makeMenus()
     connect(m_showSideView, &QAction::triggered, this, &MainWindow::setSideViewShown);
     connect(m_splitter, &QSplitter::splitterMoved, this,
             [this] { m_showSideView->setChecked(m_splitter->sizes().front() > 0); });
+    m_showTabs = view.addAction(localized("&Lower Half"));
+    m_showTabs->setCheckable(true);
+    m_showTabs->setShortcut(QKeySequence(Qt::Key_F8));
+    connect(m_showTabs, &QAction::triggered, this, &MainWindow::setTabsShown);
+    connect(m_tabsSplitter, &QSplitter::splitterMoved, this,
+            [this] { m_showTabs->setChecked(m_tabsSplitter->sizes().back() > 0); });
+    view.addSeparator();
+    m_graphTabs->addViewItems(view);
     view.addSeparator();
     view.addActions(m_quickFilterItems->actions());
     view.addSeparator();
@@ -336,6 +356,25 @@ void MainWindow::setSideViewShown(bool shown)
     const int side = shown ? m_sideView->sizeHint().width() : 0;
     m_splitter->setSizes({side, std::max(m_splitter->width() - side, 1)});
     m_showSideView->setChecked(shown);
+}
+
+QByteArray MainWindow::tabsSplitterState() const
+{
+    return m_tabsSplitter->saveState();
+}
+
+void MainWindow::restoreTabsSplitter(const QByteArray& state)
+{
+    if (!m_tabsSplitter->restoreState(state))
+        setTabsShown(true);
+    m_showTabs->setChecked(m_tabsSplitter->sizes().back() > 0);
+}
+
+void MainWindow::setTabsShown(bool shown)
+{
+    const int tabs = shown ? kFreshTabs : 0;
+    m_tabsSplitter->setSizes({std::max(m_tabsSplitter->height() - tabs, kSmallestTable), tabs});
+    m_showTabs->setChecked(shown);
 }
 
 void MainWindow::takeFirstRunFrame()

@@ -15,22 +15,26 @@ class QSplitter;
 namespace tessara {
 
 class ActivityIndicator;
+class Clock;
 class ElidedLabel;
 class FilterField;
+class GraphTabs;
 class IntervalMenu;
 class TSNetworksView;
 class TSSideView;
 
-/// The main window: toolbar, menus, networks table and footer. It shows what it is given and
-/// tells what the user asks for; it decides nothing.
+/// The main window: toolbar, menus, networks table, tabs below it and footer. It shows what it is
+/// given and tells what the user asks for; it decides nothing.
 class MainWindow final : public QMainWindow {
     Q_OBJECT
 
 public:
-    MainWindow();
+    /// @param clock tells the charts the time; must outlive the window
+    explicit MainWindow(const Clock& clock);
 
     TSNetworksView& networksView() { return *m_networksView; }
     TSSideView& sideView() { return *m_sideView; }
+    GraphTabs& graphTabs() { return *m_graphTabs; }
     ActivityIndicator& activityIndicator() { return *m_activityIndicator; }
     IntervalMenu& intervalMenu() { return *m_intervalMenu; }
 
@@ -51,6 +55,9 @@ public:
     /// The place of the bar between side view and table, to be stored; collapsed in a fresh window.
     QByteArray splitterState() const;
     void restoreSplitter(const QByteArray& state);
+    /// The same of the bar above the tabs; in a fresh window they are as low as they may be.
+    QByteArray tabsSplitterState() const;
+    void restoreTabsSplitter(const QByteArray& state);
 
     /// Takes a part of the size of a fresh window, in the middle of the screen.
     void takeFirstRunFrame();
@@ -86,17 +93,21 @@ private:
     void makeFooter();
     void setSideViewShown(bool shown);
     void onCopy();
+    void setTabsShown(bool shown);
     void showAbout();
 
     QSplitter* m_splitter;
+    QSplitter* m_tabsSplitter; ///< right of the side view: table and tabs
     TSSideView* m_sideView;
     TSNetworksView* m_networksView;
+    GraphTabs* m_graphTabs;
     QAction* m_scan = nullptr;
     QAction* m_stop = nullptr;
     QAction* m_showSideView = nullptr;
     QAction* m_exportAll = nullptr;
     QAction* m_exportDisplayed = nullptr;
     QAction* m_exportSelected = nullptr;
+    QAction* m_showTabs = nullptr;
     IntervalMenu* m_intervalMenu = nullptr;
     ActivityIndicator* m_activityIndicator = nullptr;
     ElidedLabel* m_info = nullptr;

@@ -1,0 +1,201 @@
+#include "shell/GraphTabs.h"
+
+#include "charts/TSSignalStrengthView.h"
+#include "foundation/Defaults.h"
+#include "foundation/Localized.h"
+
+#include <QAction>
+#include <QActionGroup>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QStackedWidget>
+#include <QTabBar>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace tessara {
+
+namespace {
+
+constexpr int kSmallestHeight = 240; // points; the texts of a chart's axis keep apart
+constexpr double kMagnification = 0.2;
+
+/// The tabs by the identifiers that the settings know them by.
+struct GraphTab {
+    QStringView identifier;
+    const char* title;
+};
+constexpr GraphTab kTabs[] = {
+    {u"NetworkDetails", "Network Details"},
+    {u"SignalStrength", "Signal Strength"},
+    {u"Spectrum", "Spectrum"},
+    {u"AdvancedDetails", "Advanced Details"},
+};
+
+} // namespace
+
+GraphTabs::GraphTabs(const Clock& clock, QWidget* parent)
+    : QWidget(parent)
+    , m_tabBar(new QTabBar)
+    , m_pages(new QStackedWidget)
+    , m_tabItems(new QActionGroup(this))
+    , m_moreTime(new QAction(localized("Show &More Time"), this))
+    , m_lessTime(new QAction(localized("Show &Less Time"), this))
+    , m_signalStrengthView(new TSSignalStrengthView(clock))
+{
+    m_tabBar->setDrawBase(false);
+    m_tabBar->setExpanding(false);
+    m_tabBar->setFocusPolicy(Qt::TabFocus); // a click leaves the keyboard with the table
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(m_tabBar, 0, Qt::AlignHCenter);
+    layout->addWidget(m_pages, 1);
+    setMinimumHeight(kSmallestHeight);
+
+    QWidget* const pages[] = {nullptr, m_signalStrengthView, nullptr, nullptr};
+    for (std::size_t i = 0; i < std::size(kTabs); ++i)
+        addTab(kTabs[i].title, pages[i]);
+    connect(m_tabBar, &QTabBar::currentChanged, this, &GraphTabs::tabDidChange);
+
+    m_moreTime->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_BracketRight));
+    m_lessTime->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_BracketLeft));
+    connect(m_moreTime, &QAction::triggered, this, [this] { magnify(kMagnification); });
+    connect(m_lessTime, &QAction::triggered, this, [this] { magnify(-kMagnification); });
+    connect(m_signalStrengthView, &TSSignalStrengthView::timescaleDidChange, this,
+            &GraphTabs::validateTimescaleItems);
+}
+
+void GraphTabs::addTab(const char* title, QWidget* page)
+{
+    const int index = m_tabBar->addTab(localized(title));
+    m_tabBar->setTabEnabled(index, page != nullptr);
+    m_pages->addWidget(page ? page : new QWidget);
+
+    QAction* item = m_tabItems->addAction(localized(title));
+    item->setCheckable(true);
+    item->setEnabled(page != nullptr);
+    item->setShortcut(QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + index)));
+    connect(item, &QAction::triggered, this, [this, index] { selectGraph(index); });
+}
+
+void GraphTabs::selectGraph(int index)
+{
+    if (m_tabBar->isTabEnabled(index))
+        m_tabBar->setCurrentIndex(index);
+}
+
+void GraphTabs::tabDidChange(int index)
+{
+    m_pages->setCurrentIndex(index);
+    m_tabItems->actions().at(index)->setChecked(true);
+    validateTimescaleItems();
+    configure();
+}
+
+void GraphTabs::configureSelectedTabView(const NetworkList& filteredNetworks)
+{
+    m_filteredNetworks = filteredNetworks;
+    configure();
+}
+
+void GraphTabs::configure()
+{
+    auto* chart = qobject_cast<TSSignalStrengthView*>(m_pages->currentWidget());
+    if (!chart)
+        return;
+    chart->setUnits(unitsOfSetting(Defaults::standard().integerForKey(DefaultKey::Units)));
+    chart->setItemHighlightEnabled(std::ranges::any_of(
+        m_filteredNetworks, &TSNetwork::isUserHighlighted,
+        [](const NetworkPtr& network) -> const TSNetwork& { return *network; }));
+    chart->setNetworks(m_filteredNetworks);
+}
+
+void GraphTabs::setReferenceTime(double time)
+{
+    m_signalStrengthView->setReferenceTime(time);
+}
+
+// Settings --------------------------------------------------------------------------------------
+
+void GraphTabs::loadDefaults()
+{
+    Defaults& defaults = Defaults::standard();
+    const QString identifier = defaults.stringForKey(DefaultKey::SelectedTabViewIdentifier);
+    const auto* tab = std::ranges::find(kTabs, identifier, &GraphTab::identifier);
+    selectGraph(tab == std::end(kTabs) ? 0 : static_cast<int>(tab - std::begin(kTabs)));
+
+    TSSignalStrengthView& chart = *m_signalStrengthView;
+    const std::int64_t seconds = defaults.integerForKey(DefaultKey::SignalStrengthViewTimescale);
+    chart.setTimescale(std::clamp(seconds, chart.minTimescale(), chart.maxTimescale()));
+}
+
+void GraphTabs::saveDefaults() const
+{
+    Defaults& defaults = Defaults::standard();
+    defaults.setValue(
+        DefaultKey::SelectedTabViewIdentifier,
+        kTabs[static_cast<std::size_t>(m_tabBar->currentIndex())].identifier.toString());
+    defaults.setValue(DefaultKey::SignalStrengthViewTimescale,
+                      static_cast<qint64>(m_signalStrengthView->timescale()));
+}
+
+// Commands --------------------------------------------------------------------------------------
+
+void GraphTabs::addViewItems(QMenu& menu)
+{
+    menu.addActions(m_tabItems->actions());
+    menu.addSeparator();
+    menu.addAction(m_moreTime);
+    menu.addAction(m_lessTime);
+}
+
+TSSignalStrengthView* GraphTabs::selectedTimeChart() const
+{
+    return m_pages->currentWidget() == m_signalStrengthView ? m_signalStrengthView : nullptr;
+}
+
+void GraphTabs::magnify(double magnification)
+{
+    if (TSSignalStrengthView* chart = selectedTimeChart())
+        chart->magnifyWithMagnification(magnification);
+}
+
+void GraphTabs::validateTimescaleItems()
+{
+    const TSSignalStrengthView* chart = selectedTimeChart();
+    m_moreTime->setEnabled(chart && chart->timescale() != chart->maxTimescale());
+    m_lessTime->setEnabled(chart && chart->timescale() != chart->minTimescale());
+}
+
+bool GraphTabs::eventFilter(QObject* watched, QEvent* event)
+{
+    switch (event->type()) {
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+        if (static_cast<const QKeyEvent&>(*event).key() == Qt::Key_Alt)
+            setAltKeyDown(event->type() == QEvent::KeyPress);
+        break;
+    case QEvent::WindowDeactivate: // the release goes elsewhere
+        setAltKeyDown(false);
+        break;
+    default:
+        break;
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void GraphTabs::setAltKeyDown(bool down)
+{
+    if (std::exchange(m_altKeyDown, down) == down)
+        return;
+    for (TSSignalStrengthView* chart : findChildren<TSSignalStrengthView*>()) {
+        if (down)
+            chart->handleAltKeyDownNotification();
+        else
+            chart->handleAltKeyUpNotification();
+    }
+}
+
+} // namespace tessara

@@ -1,0 +1,65 @@
+#pragma once
+
+#include "model/TSNetwork.h"
+
+#include <QWidget>
+
+class QActionGroup;
+class QMenu;
+class QStackedWidget;
+class QTabBar;
+
+namespace tessara {
+
+class Clock;
+class TSSignalStrengthView;
+
+/// The lower half of the window: tabs that show the networks of the table in charts and in words.
+/// Only the tab in sight takes part in an update; the others catch up when they are selected.
+class GraphTabs final : public QWidget {
+    Q_OBJECT
+
+public:
+    /// @param clock must outlive the tabs
+    explicit GraphTabs(const Clock& clock, QWidget* parent = nullptr);
+
+    /// Shows the networks of the table, and which of them are selected.
+    void configureSelectedTabView(const NetworkList& filteredNetworks);
+    /// The time that the charts end at, seconds since 1970.
+    void setReferenceTime(double time);
+
+    /// Selects a tab, counted from 0; one that has nothing to show yet is passed over.
+    void selectGraph(int index);
+    /// The tab and the ranges of time, from the settings and to them.
+    void loadDefaults();
+    void saveDefaults() const;
+
+    /// Adds the commands for the tabs to a menu.
+    void addViewItems(QMenu& menu);
+
+    TSSignalStrengthView& signalStrengthView() { return *m_signalStrengthView; }
+
+protected:
+    /// Follows the Option key, which is Alt here, in the window that it filters.
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void addTab(const char* title, QWidget* page);
+    void tabDidChange(int index);
+    void configure();
+    TSSignalStrengthView* selectedTimeChart() const;
+    void magnify(double magnification);
+    void validateTimescaleItems();
+    void setAltKeyDown(bool down);
+
+    QTabBar* m_tabBar;
+    QStackedWidget* m_pages;
+    QActionGroup* m_tabItems;
+    QAction* m_moreTime;
+    QAction* m_lessTime;
+    TSSignalStrengthView* m_signalStrengthView;
+    NetworkList m_filteredNetworks;
+    bool m_altKeyDown = false;
+};
+
+} // namespace tessara
