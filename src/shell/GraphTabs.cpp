@@ -82,8 +82,9 @@ void GraphTabs::addTab(const char* title, QWidget* page)
 
 void GraphTabs::selectGraph(int index)
 {
-    if (m_tabBar->isTabEnabled(index))
-        m_tabBar->setCurrentIndex(index);
+    while (!m_tabBar->isTabEnabled(index))
+        index = (index + 1) % m_tabBar->count();
+    m_tabBar->setCurrentIndex(index);
 }
 
 void GraphTabs::tabDidChange(int index)
