@@ -1,9 +1,11 @@
 #include "shell/AppDelegate.h"
 
+#include "charts/TSSignalStrengthView.h"
 #include "foundation/Defaults.h"
 #include "foundation/Directories.h"
 #include "scanning/ScriptedInterface.h"
 #include "shell/FilterField.h"
+#include "shell/GraphTabs.h"
 #include "shell/IntervalMenu.h"
 #include "shell/TSNetworksView.h"
 #include "shell/TSSideView.h"
@@ -210,6 +212,25 @@ TEST_F(AppDelegateTest, ShowsWhatAScanFindsInTheOrderOfTheHeader)
     EXPECT_THAT(names(), ElementsAre("alpha", "Gamma 9", "Gamma 10", "Beta"));
     tick();
     EXPECT_THAT(names(), ElementsAre("alpha", "Gamma 9", "Gamma 10", "Beta"));
+}
+
+TEST_F(AppDelegateTest, ShowsTheSelectionOfTheListInTheChart)
+{
+    launch();
+    engineScans({named("0:0:0:0:0:1", "Beta"), named("0:0:0:0:0:2", "Alpha")});
+    const TSSignalStrengthView& chart = window().graphTabs().signalStrengthView();
+    EXPECT_EQ(chart.networks().size(), 2U);
+    EXPECT_EQ(chart.referenceTime(), clock.now());
+    EXPECT_FALSE(chart.itemHighlightEnabled());
+
+    table().setCurrentIndex(table().model()->index(0, 0));
+    EXPECT_TRUE(chart.itemHighlightEnabled());
+    EXPECT_EQ(chart.networks().back()->ssid(), QStringLiteral("Alpha"));
+    table().clearSelection();
+    EXPECT_FALSE(chart.itemHighlightEnabled());
+
+    tick();
+    EXPECT_EQ(chart.referenceTime(), clock.now());
 }
 
 TEST_F(AppDelegateTest, ChecksTheStoredIntervalAndScansAtItsOwnPace)
