@@ -1,14 +1,12 @@
 #include "charts/SignalLine.h"
 
-#include <optional>
-
 namespace tessara {
 
 namespace {
 
 constexpr double kLongestGap = 60; // seconds between samples that are joined
 constexpr double kStubLength = 3;  // of the line of a single sample
-constexpr double kOverlap = 0.075; // of neighbouring stretches
+constexpr double kSliver = 0.075;  // by which an area reaches beyond its newest sample
 
 /// Collects a line, newest sample first.
 class LineBuilder {
@@ -21,68 +19,65 @@ public:
 
     void addStub(const QPointF& rightEnd)
     {
-        m_line.moveTo(rightEnd.x() - kStubLength, rightEnd.y());
-        m_line.lineTo(rightEnd);
+        m_stretch.moveTo(rightEnd.x() - kStubLength, rightEnd.y());
+        m_stretch.lineTo(rightEnd);
     }
 
     void beginPiece(const QPointF& point)
     {
-        if (m_shape.hasArea && m_areaStart)
-            endStretch(m_last);
-        m_line.moveTo(point);
-        if (!m_areaStart)
-            m_areaStart = point;
-        m_last = point;
+        if (m_shape.hasArea && m_area.elementCount() > 0)
+            endPiece(m_area.elementAt(0).x);
+        m_stretch.moveTo(point);
+        if (m_shape.hasArea)
+            m_area.moveTo(point);
     }
 
     void addPoint(const QPointF& point)
     {
-        m_line.lineTo(point);
-        m_last = point;
-        if (m_line.elementCount() > m_shape.maxElements) {
-            endStretch(point);
-            m_line.moveTo(point.x() + kOverlap, point.y());
-            m_areaStart = point;
+        m_stretch.lineTo(point);
+        if (m_shape.hasArea)
+            m_area.lineTo(point);
+        if (m_stretch.elementCount() > m_shape.maxElements) {
+            endStretch();
+            m_stretch.moveTo(point.x() + kSliver, point.y());
         }
     }
 
-    std::vector<LineStretch> finish()
+    SampleLine finish()
     {
-        if (m_areaStart) {
-            m_areaStart->rx() += kOverlap;
-            endStretch(m_last);
-        }
-        return std::move(m_stretches);
+        if (m_shape.hasArea && m_area.elementCount() > 0)
+            endPiece(m_area.elementAt(0).x + kSliver);
+        else if (!m_stretch.isEmpty())
+            endStretch();
+        return std::move(m_result);
     }
 
 private:
-    void endStretch(const QPointF& last)
+    void endStretch() { m_result.stretches.push_back(std::exchange(m_stretch, {})); }
+
+    /// @param newest the x where the area ends on its floor
+    void endPiece(double newest)
     {
-        LineStretch stretch{std::move(m_line), {}};
-        m_line = {};
-        if (m_shape.hasArea) {
-            stretch.area = stretch.line;
-            stretch.area.lineTo(last.x(), m_floor);
-            stretch.area.lineTo(m_areaStart->x(), m_floor);
-            stretch.area.lineTo(*m_areaStart);
-            stretch.area.closeSubpath();
-        }
-        m_stretches.push_back(std::move(stretch));
-        m_areaStart.reset();
+        endStretch();
+        const QPointF start = m_area.elementAt(0);
+        m_area.lineTo(m_area.currentPosition().x(), m_floor);
+        m_area.lineTo(newest, m_floor);
+        m_area.lineTo(newest, start.y());
+        m_area.closeSubpath();
+        m_result.areas.push_back(std::exchange(m_area, {}));
     }
 
     double m_floor;
     LineShape m_shape;
-    QPainterPath m_line;
-    std::optional<QPointF> m_areaStart; ///< the newest point of the area
-    QPointF m_last;
-    std::vector<LineStretch> m_stretches;
+    QPainterPath m_stretch;
+    QPainterPath m_area;
+    SampleLine m_result;
 };
 
 } // namespace
 
-std::vector<LineStretch> sampleLine(const std::deque<TSDataPoint>& history, const ChartScale& scale,
-                                    const LineShape& shape)
+SampleLine sampleLine(const std::deque<TSDataPoint>& history, const ChartScale& scale,
+                      const LineShape& shape)
 {
     LineBuilder line(scale, shape);
     const TSDataPoint* previous = nullptr;

@@ -10,16 +10,19 @@
 
 namespace tessara {
 
-/// A stretch of a line of samples, and what lies below it.
-struct LineStretch {
-    QPainterPath line; ///< in one piece, or in several with gaps between
-    QPainterPath area; ///< empty where none was asked for
+/// A line of samples in its parts, the newest first.
+struct SampleLine {
+    /// To be stroked. A stretch may be in several pieces, with gaps between.
+    std::vector<QPainterPath> stretches;
+    /// What lies below, one for each piece between two gaps; none where none is asked for. An area
+    /// does not end with a stretch, since the seams would show.
+    std::vector<QPainterPath> areas;
 };
 
 /// The shape of a line.
 struct LineShape {
     Metric metric = Metric::kSignal;
-    /// Areas are wanted; the line then has one stretch for each piece.
+    /// Areas are wanted; the line then has a stretch for each piece.
     bool hasArea = false;
     int maxElements = std::numeric_limits<int>::max(); ///< a stretch that has more ends there
 };
@@ -27,7 +30,7 @@ struct LineShape {
 /// The line of the samples that are visible, newest first, and of the first beyond the left edge.
 /// Samples more than a minute apart are not joined.
 /// @param history oldest first
-std::vector<LineStretch> sampleLine(const std::deque<TSDataPoint>& history, const ChartScale& scale,
-                                    const LineShape& shape);
+SampleLine sampleLine(const std::deque<TSDataPoint>& history, const ChartScale& scale,
+                      const LineShape& shape);
 
 } // namespace tessara

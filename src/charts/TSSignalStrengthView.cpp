@@ -356,12 +356,13 @@ void TSSignalStrengthView::drawLines(QPainter& painter, const ChartScale& scale,
                 areaColor = withAlpha(network->color(), network->isUserHighlighted() ? 0.6 : 0);
         }
         const QPen pen = linePen(*network, opacity, window);
-        for (const LineStretch& stretch : sampleLine(
-                 network->history(), scale,
-                 {.hasArea = network->isUserHighlighted(), .maxElements = m_maxBezierPoints})) {
-            painter.strokePath(stretch.line, pen);
-            painter.fillPath(stretch.area, areaColor);
-        }
+        const SampleLine line =
+            sampleLine(network->history(), scale,
+                       {.hasArea = network->isUserHighlighted(), .maxElements = m_maxBezierPoints});
+        for (const QPainterPath& stretch : line.stretches)
+            painter.strokePath(stretch, pen);
+        for (const QPainterPath& area : line.areas)
+            painter.fillPath(area, areaColor);
     }
 }
 

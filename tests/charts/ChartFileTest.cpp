@@ -1,0 +1,127 @@
+#include "charts/ChartFile.h"
+
+#include "charts/ChartNetworks.h"
+#include "charts/TSSignalStrengthView.h"
+#include "support/ManualClock.h"
+#include "support/QtPrinters.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QImage>
+#include <QMouseEvent>
+#include <QTemporaryDir>
+#include <QXmlStreamReader>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <ctime>
+
+using namespace tessara;
+
+namespace {
+
+/// A chart of three networks, one of them selected; not scanning.
+class ChartFileTest : public testing::Test {
+protected:
+    ChartFileTest()
+    {
+        qputenv("TZ", "UTC");
+        tzset();
+        const auto selected = chartNetwork(
+            10, {{250, -70}, {200, -60}, {120, -50}, {110, -55}, {80, -45}, {40, -52}, {0, -40}});
+        selected->setUserHighlighted(true);
+        const auto associated = chartNetwork(20, {{300, -50}, {250, -48}, {200, -55}, {0, -30}});
+        associated->setAssociated(true);
+        const auto dropped = chartNetwork(3, {{150, -80}, {100, -75}, {60, -120}, {0, -120}});
+        window.resize(1100, 735); // so that texts and bubble have their usual sizes
+        view.resize(800, 320);
+        view.setUnits(Units::kDBm);
+        view.setItemHighlightEnabled(true);
+        view.setReferenceTime(kReferenceTime);
+        view.setNetworks({selected, associated, dropped});
+    }
+
+    QByteArray written(const char* name)
+    {
+        const QString path = folder.filePath(QString::fromLatin1(name));
+        EXPECT_EQ(writeChart(view, path), QString());
+        QFile file(path);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+    QTemporaryDir folder;
+    ManualClock clock{kReferenceTime + 3600};
+    QWidget window;
+    TSSignalStrengthView& view = *new TSSignalStrengthView(clock, &window);
+};
+
+/// The largest difference, from 0 to 255, of two images of one size seen from some distance: a
+/// missing line shows, fonts that are rendered a little differently do not.
+int difference(const QImage& one, const QImage& other)
+{
+    constexpr int kDistance = 8;
+    const auto farAway = [](const QImage& image) {
+        return image.scaled(image.size() / kDistance, Qt::IgnoreAspectRatio,
+                            Qt::SmoothTransformation);
+    };
+    const QImage a = farAway(one);
+    const QImage b = farAway(other);
+    int largest = 0;
+    for (int y = 0; y < a.height(); ++y) {
+        for (int x = 0; x < a.width(); ++x) {
+            const QRgb p = a.pixel(x, y);
+            const QRgb q = b.pixel(x, y);
+            largest = std::max({largest, std::abs(qRed(p) - qRed(q)),
+                                std::abs(qGreen(p) - qGreen(q)), std::abs(qBlue(p) - qBlue(q))});
+        }
+    }
+    return largest;
+}
+
+} // namespace
+
+TEST_F(ChartFileTest, LooksAsItIsToLook)
+{
+    // Each picture is left in the folder of the test, to be looked at where it differs.
+    const auto looksLike = [this](const char* name) {
+        const QImage golden(QStringLiteral(TESSARA_GOLDEN_CHARTS "/%1").arg(QLatin1String(name)));
+        const QImage painted = QImage::fromData(written(name));
+        painted.save(QString::fromLatin1(name));
+        return painted.size() == golden.size() && difference(painted, golden) < 24;
+    };
+    EXPECT_TRUE(looksLike("signal-dBm.png"));
+    view.setUnits(Units::kPercent);
+    const QPointF position(460, 130);
+    QMouseEvent move(QEvent::MouseMove, position, position, Qt::NoButton, {}, {});
+    QCoreApplication::sendEvent(&view, &move);
+    EXPECT_TRUE(looksLike("signal-percent-bubble.png"));
+}
+
+TEST_F(ChartFileTest, WritesVectorsWithTextAsText)
+{
+    QXmlStreamReader svg(written("chart.svg"));
+    QStringList texts;
+    int paths = 0;
+    while (!svg.atEnd()) {
+        if (svg.readNext() == QXmlStreamReader::Characters && !svg.isWhitespace())
+            texts.append(svg.text().toString());
+        paths += svg.isStartElement() && svg.name() == QLatin1String("path") ? 1 : 0;
+    }
+    EXPECT_FALSE(svg.hasError()) << svg.errorString().toStdString();
+    EXPECT_TRUE(texts.contains(QStringLiteral("-50")));
+    EXPECT_TRUE(texts.contains(QStringLiteral("Net 20")));
+    EXPECT_GT(paths, 4);
+    EXPECT_TRUE(written("chart.PDF").startsWith("%PDF-"));
+}
+
+TEST_F(ChartFileTest, LeavesAFileAloneThatItCannotReplace)
+{
+    EXPECT_TRUE(isChartFileName(QStringLiteral("a.Svg")));
+    EXPECT_FALSE(isChartFileName(QStringLiteral("png")));
+    const QString path = folder.filePath(QStringLiteral("gone/chart.png"));
+    const QString fault = writeChart(view, path);
+    EXPECT_TRUE(fault.startsWith(path)) << fault.toStdString();
+    EXPECT_GT(fault.size(), path.size() + 5);
+}
