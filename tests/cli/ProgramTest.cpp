@@ -153,6 +153,43 @@ TEST_F(ProgramTest, ListsWhatAFilterSelects)
                           QStringLiteral("SSID")}));
 }
 
+TEST_F(ProgramTest, PaintsAChart)
+{
+    write("two.jsonl", kTwoScans);
+    const auto chart = [this](const char* options) {
+        return run(QStringLiteral("chart two.jsonl --output out.png ") +
+                   QString::fromLatin1(options));
+    };
+    EXPECT_EQ(chart("--size 640x320").exitCode, 0);
+    const QByteArray plain = contents("out.png");
+    EXPECT_TRUE(plain.startsWith("\x89PNG"));
+    EXPECT_EQ(chart("--size 640x320 --bssid 0A:00:00:00:00:02").exitCode, 0);
+    EXPECT_NE(contents("out.png"), plain);
+    EXPECT_EQ(chart("--size 640x320 --default Units=1").exitCode, 0);
+    EXPECT_NE(contents("out.png"), plain);
+
+    write("out.png", "old");
+    struct Case {
+        const char* options;
+        int exitCode;
+        const char* says;
+    };
+    for (const Case& c :
+         {Case{"--bssid 02:00:00:00:00:09", 1, "holds no network 02:00"},
+          Case{"--kind pie", 2, "no kind of chart 'pie'"}, Case{"--size 0x10", 2, "--size takes"},
+          Case{"--size 99999x99999", 2, "--size takes"},
+          Case{"--timescale 0", 2, "--timescale takes"},
+          Case{"--timescale soon", 2, "--timescale takes"},
+          Case{"--output out.gif", 2, ".png, .pdf or .svg"},
+          Case{"--output gone/out.svg", 1, "gone/out.svg: "}}) {
+        SCOPED_TRACE(c.options);
+        const Outcome outcome = chart(c.options);
+        EXPECT_EQ(outcome.exitCode, c.exitCode);
+        EXPECT_TRUE(outcome.err.contains(QLatin1String(c.says))) << outcome.err.toStdString();
+    }
+    EXPECT_EQ(contents("out.png"), "old");
+}
+
 TEST_F(ProgramTest, ShowsWhatCouldBeReadBeforeAnError)
 {
     write("broken.jsonl", kTwoScans + "{\"time\":1}\n");
