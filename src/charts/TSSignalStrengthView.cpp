@@ -321,10 +321,10 @@ void TSSignalStrengthView::drawLabels(QPainter& painter, const ChartScale& scale
     const double x = scale.rect.x() + scale.rect.width() + beside;
     const double room = width() - x - kRightMargin;
     for (const NetworkPtr& network : networks) {
-        const auto last = network->lastDataPoint();
-        if (network->isUserHidden() || !last)
+        if (network->isUserHidden())
             continue;
-        const double y = scale.yFor(*last, Metric::kSignal);
+        const auto last = network->lastDataPoint();
+        const double y = last ? scale.yFor(*last, Metric::kSignal) : scale.rect.y();
         const double alpha = isHighlighted(*network) ? 1 : m_itemHighlightEnabled ? 0.2 : 0.8;
         TextAttributes attributes{fontSize + kLargerThanAxis, withAlpha(network->color(), alpha),
                                   network->isAssociated() ? TextStyle::kBold : TextStyle::kPlain};

@@ -172,10 +172,17 @@ void GraphTabs::validateTimescaleItems()
 
 bool GraphTabs::eventFilter(QObject* watched, QEvent* event)
 {
+    const auto isAltKey = [event] {
+        return static_cast<const QKeyEvent&>(*event).key() == Qt::Key_Alt;
+    };
     switch (event->type()) {
+    case QEvent::ShortcutOverride:
+        if (isAltKey() && m_pages->underMouse())
+            return true; // over a chart it asks about a sample, not for the menus
+        break;
     case QEvent::KeyPress:
     case QEvent::KeyRelease:
-        if (static_cast<const QKeyEvent&>(*event).key() == Qt::Key_Alt)
+        if (isAltKey())
             setAltKeyDown(event->type() == QEvent::KeyPress);
         break;
     case QEvent::WindowDeactivate: // the release goes elsewhere
