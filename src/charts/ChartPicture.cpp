@@ -59,7 +59,7 @@ QByteArray ChartPicture::made(const QString& mimeType) const
 {
     if (mimeType == kTiff)
         return encoded(m_image, "tiff");
-    const QByteArray png = encoded(m_image, "png");
+    QByteArray png = encoded(m_image, "png");
     if (mimeType == kPng)
         return png;
     QSaveFile file(m_file);

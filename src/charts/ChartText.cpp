@@ -86,15 +86,14 @@ void drawRuns(QPainter& painter, const std::vector<TextRun>& runs, double y, con
 void drawLine(QPainter& painter, const QPointF& origin, const std::vector<TextRun>& runs,
               const QColor& color)
 {
-    QColor shadow = Qt::black;
-    shadow.setAlphaF(color.alphaF());
     const double ascent = QFontMetricsF(runs.front().font, painter.device()).ascent();
     painter.save();
     painter.setRenderHint(QPainter::TextAntialiasing, true);
+    painter.setOpacity(color.alphaF()); // which the pictures among the characters follow, too
     painter.translate(origin.x(), origin.y() + ascent);
     painter.scale(1, -1);
-    drawRuns(painter, runs, kShadowOffset, shadow);
-    drawRuns(painter, runs, 0, color);
+    drawRuns(painter, runs, kShadowOffset, Qt::black);
+    drawRuns(painter, runs, 0, color.rgb());
     painter.restore();
 }
 

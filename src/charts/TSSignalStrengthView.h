@@ -116,8 +116,10 @@ protected:
     /// The same for what follows the mouse alone.
     void setHoverNeedsDisplay() { update(); }
 
+    // What the chart shows of networks, one by one or, with a merge, organised by radio.
     void drawDataPoints(QPainter& painter, const ChartScale& scale, const NetworkList& networks,
                         const RadioMerge* merge);
+    void drawTitle(QPainter& painter, const ChartScale& scale, const RadioMerge* merge) const;
 
     bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
@@ -141,7 +143,6 @@ private:
     void drawLabels(QPainter& painter, const ChartScale& scale, const NetworkList& networks,
                     const RadioMerge* merge) const;
     void drawLines(QPainter& painter, const ChartScale& scale, const NetworkList& networks) const;
-    void drawTitle(QPainter& painter, const ChartScale& scale, const RadioMerge* merge) const;
     double labelFontSize() const;
     bool hasRecentScan() const;
     void magnifyLittle(double magnification);

@@ -28,6 +28,13 @@ constexpr TickStep kTickSteps[] = {
 constexpr std::int64_t kLongIntervals[] = {600, 900, 1800, 3600, 7200};
 constexpr std::int64_t kLongestExact = 300;
 
+/// Whether a time can be told: a file may hold any number.
+bool isTime(double seconds)
+{
+    constexpr double kFarthest = 1e12;
+    return std::abs(seconds) < kFarthest;
+}
+
 const TickStep& stepOf(std::int64_t timescale)
 {
     return *std::ranges::find_if(kTickSteps,
@@ -58,7 +65,7 @@ TimeTicks timeTicks(const ChartScale& scale)
     result.format =
         stepOf(scale.timescale).hasSeconds ? exactTimeFormat() : QStringLiteral("HH:mm");
     const double perSecond = scale.pointsPerSecond();
-    if (perSecond <= 0)
+    if (perSecond <= 0 || !isTime(scale.referenceTime))
         return result;
     const std::int64_t interval = tickInterval(perSecond, scale.timescale);
     const auto end = static_cast<std::int64_t>(scale.referenceTime);
@@ -79,6 +86,8 @@ TimeTicks timeTicks(const ChartScale& scale)
 
 QString timeStringWithFormat(double time, const QString& format)
 {
+    if (!isTime(time))
+        return {};
     return QDateTime::fromMSecsSinceEpoch(static_cast<qint64>(std::floor(time * 1000)))
         .toString(format);
 }

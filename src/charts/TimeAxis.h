@@ -29,7 +29,7 @@ std::int64_t tickInterval(double pointsPerSecond, std::int64_t timescale);
 /// Ticks at whole multiples of their interval since 1970, so that they move with the data.
 TimeTicks timeTicks(const ChartScale& scale);
 
-/// A time of day in the local time zone.
+/// A time of day in the local time zone; empty for a time beyond all reason.
 /// @param time seconds since 1970
 /// @param format as `QDateTime::toString` reads it
 QString timeStringWithFormat(double time, const QString& format);

@@ -71,6 +71,8 @@ void GraphTabs::addTab(const char* title, QWidget* page)
 {
     const int index = m_tabBar->addTab(localized(title));
     m_tabBar->setTabEnabled(index, page != nullptr);
+    if (page)
+        page->setAccessibleName(localized(title));
     m_pages->addWidget(page ? page : new QWidget);
 
     QAction* item = m_tabItems->addAction(localized(title));

@@ -6,6 +6,8 @@
 
 #include <gmock/gmock.h>
 
+#include <limits>
+
 using namespace tessara;
 using testing::ElementsAre;
 
@@ -192,9 +194,15 @@ TEST(TimeAxis, LeavesOutATickWhereTheChartEnds)
     EXPECT_FALSE(oldest.hasLine);
 }
 
-TEST(TimeAxis, CopesWithAChartOfNoWidth)
+TEST(TimeAxis, TellsNoTimesThatMakeNoSense)
 {
     ChartScale chart = scale();
+    for (const double time : {1e300, -1e18, std::numeric_limits<double>::quiet_NaN()}) {
+        chart.referenceTime = time;
+        EXPECT_TRUE(timeTicks(chart).ticks.empty());
+        EXPECT_TRUE(timeStringWithFormat(time, exactTimeFormat()).isEmpty());
+    }
+    chart = scale();
     for (const double width : {0.0, -120.0}) {
         chart.rect.setWidth(width);
         EXPECT_TRUE(timeTicks(chart).ticks.empty());

@@ -28,6 +28,7 @@ namespace {
 class CountedView final : public TSSignalStrengthView {
 public:
     using TSSignalStrengthView::drawDataPoints;
+    using TSSignalStrengthView::drawTitle;
     using TSSignalStrengthView::TSSignalStrengthView;
 
     const ChartScale scale() const { return chartScale(viewRect()); }
@@ -410,19 +411,41 @@ TEST_F(SignalStrengthViewTest, NamesRadiosWhereNetworksAreOrganizedByThem)
     const auto guests = levelNetwork(2, -60); // of the same radio: its last octet differs
     ASSERT_EQ(home->apid(), guests->apid());
     const NetworkList networks = {home, guests};
-    const auto labels = [&](const NetworkPtr& network) {
+    view.setNetworks(networks);
+    const auto painted = [&](const auto& paint) {
         const RadioMerge merge = mergeNetworksByRadio(networks);
         RecordingPaintDevice device(view.size());
         QPainter painter(&device);
-        view.drawDataPoints(painter, view.scale(), networks, &merge);
+        paint(painter, merge);
         painter.end();
-        std::vector<QString> texts;
-        for (const Painted& item :
-             device.painting().painted(Painted::Kind::kText, network->color()))
-            texts.push_back(item.text);
-        return texts;
+        return device.painting();
     };
-    EXPECT_THAT(labels(home), ElementsAre(home->apid()));
+    const auto label = [&](const NetworkPtr& network) {
+        return painted([&](QPainter& painter, const RadioMerge& merge) {
+                   view.drawDataPoints(painter, view.scale(), networks, &merge);
+               })
+            .painted(Painted::Kind::kText, network->color())
+            .at(0)
+            .text;
+    };
+    const auto title = [&] {
+        return painted([&](QPainter& painter, const RadioMerge& merge) {
+                   view.drawTitle(painter, view.scale(), &merge);
+               })
+            .texts()
+            .at(0)
+            .text;
+    };
+    EXPECT_EQ(label(home), home->apid());
     home->setUserHighlighted(true);
-    EXPECT_THAT(labels(home), ElementsAre(home->deviceid()));
+    view.setNetworks(networks);
+    EXPECT_EQ(label(home), home->deviceid());
+    EXPECT_EQ(title(), QStringLiteral("Net 1"));
+
+    const auto collection = std::make_shared<TSNetworkCollection>(QStringLiteral("Both"));
+    collection->setUserHighlighted(true);
+    home->setUserHighlighted(false);
+    guests->setParentCollection(collection);
+    view.setNetworks(networks);
+    EXPECT_EQ(title(), QStringLiteral("Net 1, Net 2"));
 }

@@ -111,6 +111,7 @@ private:
             m_toChart = state.transform() * QTransform(1, 0, 0, -1, 0, m_device.m_size.height());
             m_pen = state.pen();
             m_brush = state.brush();
+            m_opacity = state.opacity();
             m_isAntialiased = state.renderHints().testFlag(QPainter::Antialiasing);
         }
 
@@ -118,9 +119,11 @@ private:
         {
             const QPainterPath mapped = m_toChart.map(path);
             if (m_brush.style() != Qt::NoBrush)
-                m_device.add(Painted::Kind::kFill, mapped, m_brush.color(), m_pen, m_isAntialiased);
+                m_device.add(Painted::Kind::kFill, mapped, seen(m_brush.color()), m_pen,
+                             m_isAntialiased);
             if (m_pen.style() != Qt::NoPen)
-                m_device.add(Painted::Kind::kStroke, mapped, m_pen.color(), m_pen, m_isAntialiased);
+                m_device.add(Painted::Kind::kStroke, mapped, seen(m_pen.color()), m_pen,
+                             m_isAntialiased);
         }
 
         void drawPolygon(const QPointF* points, int count, PolygonDrawMode mode) override
@@ -138,7 +141,7 @@ private:
             m_device.m_painting.items.push_back({Painted::Kind::kText,
                                                  {},
                                                  {},
-                                                 m_pen.color(),
+                                                 seen(m_pen.color()),
                                                  m_isAntialiased,
                                                  item.text(),
                                                  item.font(),
@@ -151,10 +154,17 @@ private:
         }
 
     private:
+        QColor seen(QColor color) const
+        {
+            color.setAlphaF(static_cast<float>(color.alphaF() * m_opacity));
+            return color;
+        }
+
         RecordingPaintDevice& m_device;
         QTransform m_toChart;
         QPen m_pen;
         QBrush m_brush;
+        double m_opacity = 1;
         bool m_isAntialiased = false;
     };
 
