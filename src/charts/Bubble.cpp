@@ -1,5 +1,6 @@
 #include "charts/Bubble.h"
 
+#include "charts/ChartFrame.h"
 #include "charts/ChartText.h"
 #include "charts/TSThemeHelper.h"
 
@@ -119,7 +120,7 @@ void drawBubble(QPainter& painter, const QRectF& chart, const QString& text, con
         bubbleGeometry(chart, point, sizeOfText(text, attributes, *painter.device()), window);
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing, false);
-    painter.setPen(QPen(withAlpha(color, 0.5), 1, Qt::SolidLine, Qt::FlatCap));
+    painter.setPen(axisPen(painter, withAlpha(color, 0.5)));
     painter.drawLine(bubble.guide);
 
     painter.setRenderHint(QPainter::Antialiasing, true);

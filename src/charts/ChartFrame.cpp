@@ -9,11 +9,13 @@
 #include <QPainter>
 #include <QPainterPath>
 
+#include <algorithm>
+#include <cmath>
+
 namespace tessara {
 
 namespace {
 
-constexpr double kLineWidth = 1;
 constexpr double kGridOpacity = 0.2;
 constexpr double kBorderOpacity = 0.3;
 constexpr double kTickLength = 5;
@@ -41,6 +43,13 @@ void drawYAxisMarks(QPainter& painter, const ChartScale& scale, const ChartFrame
 
 } // namespace
 
+QPen axisPen(const QPainter& painter, const QColor& color)
+{
+    const double pixelsPerPoint = std::abs(painter.deviceTransform().m11());
+    const double pixels = std::max(std::round(pixelsPerPoint), 1.0);
+    return {color, pixels / pixelsPerPoint, Qt::SolidLine, Qt::FlatCap};
+}
+
 void drawChartFrame(QPainter& painter, const ChartScale& scale, const ChartFrame& frame,
                     const WindowScale& window)
 {
@@ -49,10 +58,12 @@ void drawChartFrame(QPainter& painter, const ChartScale& scale, const ChartFrame
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing, false);
     painter.fillRect(scale.rect, TSThemeHelper::backgroundColorForChart());
-    QPen grid(withAlpha(Qt::white, kGridOpacity), kLineWidth, Qt::SolidLine, Qt::FlatCap);
+    QPen grid = axisPen(painter, withAlpha(Qt::white, kGridOpacity));
     grid.setDashPattern({1, 1});
     painter.strokePath(gridLines(scale, frame), grid);
-    painter.setPen(QPen(withAlpha(Qt::white, kBorderOpacity), kLineWidth));
+    QPen border = axisPen(painter, withAlpha(Qt::white, kBorderOpacity));
+    border.setJoinStyle(Qt::MiterJoin);
+    painter.setPen(border);
     painter.setBrush(Qt::NoBrush);
     painter.drawRect(scale.rect);
     const double fontSize = window.fontSize(kLargestFont, kSmallestFont, kLargestFont);
@@ -84,7 +95,7 @@ void drawXAxisMarks(QPainter& painter, const ChartScale& scale, const QPointF& o
     }
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing, false);
-    painter.strokePath(lines, QPen(Qt::white, kLineWidth, Qt::SolidLine, Qt::FlatCap));
+    painter.strokePath(lines, axisPen(painter, Qt::white));
     painter.restore();
 }
 

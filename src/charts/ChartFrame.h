@@ -4,10 +4,15 @@
 #include "charts/WindowScale.h"
 
 #include <QColor>
+#include <QPen>
 
 class QPainter;
 
 namespace tessara {
+
+/// A pen for lines along the axes, one point wide and as near to it as whole pixels come: without
+/// antialiasing all of its lines are equally wide, at any scale of the screen.
+QPen axisPen(const QPainter& painter, const QColor& color);
 
 /// What the frame of a chart shows.
 struct ChartFrame {
