@@ -1,8 +1,8 @@
 #include "charts/PaintingOrder.h"
 
 #include <algorithm>
+#include <functional>
 #include <iterator>
-#include <ranges>
 
 namespace tessara {
 
@@ -15,10 +15,8 @@ PaintingOrder paintingOrder(const NetworkList& networks)
     // The others turn round; the selected ones keep the order of their averages.
     PaintingOrder order;
     order.networks.reserve(sorted.size());
-    for (const NetworkPtr& network : sorted | std::views::reverse) {
-        if (!isHighlighted(*network))
-            order.networks.push_back(network);
-    }
+    std::copy_if(sorted.rbegin(), sorted.rend(), std::back_inserter(order.networks),
+                 [](const NetworkPtr& network) { return !isHighlighted(*network); });
     for (const NetworkPtr& network : sorted) {
         if (!isHighlighted(*network))
             continue;
