@@ -57,6 +57,9 @@ public:
     void setDisplayDeviceName(bool display);
     bool displayOnlyLastSeen() const { return m_displayOnlyLastSeen; }
     void setDisplayOnlyLastSeen(bool display);
+    /// The Option key, which is Alt here, is held: it asks for what else there is to tell of the
+    /// sample under the mouse.
+    bool isAlternate() const { return m_moDataPointAlternate; }
 
     // Painting --------------------------------------------------------------------------------
 
@@ -69,7 +72,6 @@ public:
     QSize minimumSizeHint() const override;
 
 public Q_SLOTS:
-    // The Option key, which is Alt here, asks for what else there is to tell of a sample.
     void handleAltKeyDownNotification();
     void handleAltKeyUpNotification();
 
@@ -109,7 +111,6 @@ protected:
     void setHighlightedNetworks(NetworkList networks);
     const std::optional<HoverPoint>& hoverPoint() const { return m_moDataPoint; }
     void clearHoverPoint();
-    bool isAlternate() const { return m_moDataPointAlternate; }
 
     /// Something has changed that is painted: all is painted anew when it is next visible.
     void setNeedsDisplay();

@@ -33,7 +33,7 @@ namespace tessara {
 namespace {
 
 constexpr QSize kFreshSize(1100, 735);
-constexpr QSize kSmallestSize(760, 400); // the toolbar fits
+constexpr QSize kSmallestSize(760, 460); // the toolbar fits, and the tabs below a few rows
 constexpr int kSmallestTable = 100;      // height
 constexpr int kFreshTabs = 400;          // height
 constexpr int kFooterMargin = 6;

@@ -99,3 +99,17 @@ TEST_F(GraphTabsTest, OpenWithTheTabThatWasLeft)
     EXPECT_TRUE(
         next.findChild<QTabBar*>()->isTabEnabled(next.findChild<QTabBar*>()->currentIndex()));
 }
+
+TEST_F(GraphTabsTest, TellTheChartsWhileAltIsHeld)
+{
+    QWidget window;
+    window.installEventFilter(&tabs);
+    QTest::keyPress(&window, Qt::Key_Alt);
+    EXPECT_TRUE(chart.isAlternate());
+    QTest::keyRelease(&window, Qt::Key_Alt);
+    EXPECT_FALSE(chart.isAlternate());
+    QTest::keyPress(&window, Qt::Key_Alt);
+    QEvent leave(QEvent::WindowDeactivate); // the release goes to another window
+    QCoreApplication::sendEvent(&window, &leave);
+    EXPECT_FALSE(chart.isAlternate());
+}
