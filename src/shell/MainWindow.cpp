@@ -8,6 +8,7 @@
 #include "shell/FilterField.h"
 #include "shell/GlyphIcon.h"
 #include "shell/GraphTabs.h"
+#include "shell/HelpPage.h"
 #include "shell/IntervalMenu.h"
 #include "shell/TSNetworksView.h"
 #include "shell/TSSideView.h"
@@ -220,6 +221,9 @@ void MainWindow::makeMenus()
     });
 
     QMenu& help = *menuBar()->addMenu(localized("&Help"));
+    help.addAction(localized("&Filter Language"), this, &MainWindow::showFilterHelp)
+        ->setShortcut(QKeySequence::HelpContents);
+    help.addSeparator();
     help.addAction(localized("&About Tessara"), this, &MainWindow::showAbout)
         ->setMenuRole(QAction::AboutRole);
 }
@@ -384,6 +388,15 @@ void MainWindow::takeFirstRunFrame()
                      static_cast<int>(kFreshSize.height() * kFirstRunHeight));
     resize(size.boundedTo(available.size()));
     move(available.center() - rect().center());
+}
+
+void MainWindow::showFilterHelp()
+{
+    if (!m_filterHelp)
+        m_filterHelp = new HelpPage(QStringLiteral("filter"), localized("Filter Language"), this);
+    m_filterHelp->show();
+    m_filterHelp->raise();
+    m_filterHelp->activateWindow();
 }
 
 void MainWindow::showAbout()

@@ -4,6 +4,7 @@
 #include "scanning/StateInfo.h"
 
 #include <QMainWindow>
+#include <QPointer>
 
 #include <optional>
 
@@ -19,6 +20,7 @@ class Clock;
 class ElidedLabel;
 class FilterField;
 class GraphTabs;
+class HelpPage;
 class IntervalMenu;
 class TSNetworksView;
 class TSSideView;
@@ -94,6 +96,7 @@ private:
     void setSideViewShown(bool shown);
     void onCopy();
     void setTabsShown(bool shown);
+    void showFilterHelp();
     void showAbout();
 
     QSplitter* m_splitter;
@@ -101,6 +104,7 @@ private:
     TSSideView* m_sideView;
     TSNetworksView* m_networksView;
     GraphTabs* m_graphTabs;
+    QPointer<HelpPage> m_filterHelp; ///< while it is open
     QAction* m_scan = nullptr;
     QAction* m_stop = nullptr;
     QAction* m_showSideView = nullptr;
