@@ -7,6 +7,7 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMouseEvent>
+#include <QScrollBar>
 
 #include <utility>
 
@@ -33,10 +34,34 @@ TSSideView::TSSideView(QWidget* parent)
 
 void TSSideView::setItems(std::vector<TSSideViewItem> items)
 {
+    const QModelIndex selected = selectionModel()->hasSelection() ? currentIndex() : QModelIndex();
+    const QString title = selected.isValid() ? m_model.itemAt(selected).title : QString();
     m_isUpdating = true;
     m_model.setItems(std::move(items));
     m_isUpdating = false;
     setExpandedItems(m_expandedItems);
+    if (!title.isEmpty())
+        selectLast(title);
+}
+
+/// Selects the last row in sight that has a title: values of other facets that are called the same
+/// take the selection over, and it is meant so.
+void TSSideView::selectLast(const QString& title)
+{
+    for (int category = m_model.rowCount() - 1; category >= 0; --category) {
+        const QModelIndex parent = m_model.index(category, SideViewModel::kItemColumn);
+        if (!isExpanded(parent))
+            continue;
+        for (int row = m_model.rowCount(parent) - 1; row >= 0; --row) {
+            const QModelIndex index = m_model.index(row, SideViewModel::kItemColumn, parent);
+            if (m_model.itemAt(index).title != title)
+                continue;
+            const int scrolled = verticalScrollBar()->value();
+            setCurrentIndex(index);
+            verticalScrollBar()->setValue(scrolled);
+            return;
+        }
+    }
 }
 
 void TSSideView::setFontSize(double points)

@@ -38,6 +38,7 @@ protected:
     void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
+    void selectLast(const QString& title);
     void setAllExpanded(bool expanded);
     void setExpandedWithTitle(const QModelIndex& index, bool expanded);
 

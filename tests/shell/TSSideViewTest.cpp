@@ -42,6 +42,37 @@ QStringList shownValues(const SideViewModel& model)
 
 } // namespace
 
+namespace {
+
+/// So many values, or every second of them.
+std::vector<TSSideViewItem> largeTree(int count, int step)
+{
+    std::vector<TSSideViewItem> items = tree({});
+    for (int i = 0; i < count; i += step)
+        items[1].children.push_back(valueOf(qPrintable(QString::number(1000 + i))));
+    return items;
+}
+
+} // namespace
+
+TEST(SideViewModel, FollowsManyChangesAtOnce)
+{
+    SideViewModel model;
+    const QAbstractItemModelTester tester(&model,
+                                          QAbstractItemModelTester::FailureReportingMode::Fatal);
+    model.setItems(largeTree(200, 1));
+    const QPersistentModelIndex stays = model.index(42, 0, model.index(1, 0));
+    const QPersistentModelIndex goes = model.index(43, 0, model.index(1, 0));
+    model.setItems(largeTree(400, 2));
+    EXPECT_EQ(model.rowCount(model.index(1, 0)), 200);
+    EXPECT_EQ(stays.row(), 21);
+    EXPECT_EQ(stays.data(), QStringLiteral("1042"));
+    EXPECT_FALSE(goes.isValid());
+    model.setItems(largeTree(400, 1));
+    EXPECT_EQ(shownValues(model).value(43), QStringLiteral("1043"));
+    EXPECT_EQ(stays.data(), QStringLiteral("1042"));
+}
+
 TEST(SideViewModel, FollowsTheValuesRowByRow)
 {
     SideViewModel model;
@@ -81,4 +112,22 @@ TEST(SideView, KeepsExpansionAndSelectionWhenValuesComeAndGo)
     view.setItems(emptySideView());
     view.setItems(tree({"b"}));
     EXPECT_TRUE(view.isExpanded(view.model()->index(1, 0)));
+}
+
+TEST(SideView, PassesTheSelectionOnToTheLastRowInSightOfThatTitle)
+{
+    TSSideView view;
+    std::vector<TSSideViewItem> items = tree({"Acme", "Other"});
+    items.push_back(tree({"Acme"})[1]);
+    items.back().title = QStringLiteral("Maker");
+    view.setItems(items);
+    view.setExpandedItems({QStringLiteral("Vendor")});
+    view.setCurrentIndex(view.model()->index(0, 0, view.model()->index(1, 0)));
+    QSignalSpy changes(&view, &TSSideView::selectionDidChange);
+    view.setItems(items);
+    EXPECT_EQ(changes.size(), 0) << "the other one is out of sight";
+    view.setExpandedItems({QStringLiteral("Vendor"), QStringLiteral("Maker")});
+    view.setItems(items);
+    EXPECT_EQ(changes.size(), 1);
+    EXPECT_EQ(view.currentIndex().parent().row(), 2);
 }
