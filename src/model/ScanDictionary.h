@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QLatin1String>
 #include <QString>
 
 #include <cstdint>
@@ -29,6 +30,29 @@ struct ScanDictionary {
 
     bool operator==(const ScanDictionary&) const = default;
 };
+
+/// Calls `visit` with each key of a raw scan dictionary and the member that holds its value.
+template <typename Dictionary, typename Visitor>
+void forEachKey(Dictionary& network, const Visitor& visit)
+{
+    visit(QLatin1String("bssid"), network.bssid);
+    visit(QLatin1String("channelNumber"), network.channelNumber);
+    visit(QLatin1String("ssid"), network.ssid);
+    visit(QLatin1String("rssiValue"), network.rssiValue);
+    visit(QLatin1String("noiseMeasurement"), network.noiseMeasurement);
+    visit(QLatin1String("informationElementData"), network.informationElementData);
+    visit(QLatin1String("ibss"), network.ibss);
+    visit(QLatin1String("beaconInterval"), network.beaconInterval);
+    visit(QLatin1String("phyMode"), network.phyMode);
+    visit(QLatin1String("securityMode"), network.securityMode);
+}
+
+/// Whether a number from a file can be a `channelNumber`.
+constexpr bool isChannelNumber(std::int64_t number)
+{
+    constexpr std::int64_t kHighest = 0xffff; // far beyond any, and far from overflow
+    return number >= 0 && number <= kHighest;
+}
 
 using ScanResults = std::vector<ScanDictionary>;
 /// Results as threads share them: replaced whole, never changed. None before the first scan.

@@ -34,4 +34,14 @@ TSDataPoint::TSDataPoint(std::int64_t rssi, std::int64_t noise, std::int64_t sta
 {
 }
 
+TSDataPoint::TSDataPoint(const Saved& saved)
+    : m_timestamp(saved.timestamp)
+    , m_stationCount(clamped<std::int32_t>(saved.stationCount))
+    , m_rssi(clamped<std::int16_t>(saved.rssiValue))
+    , m_noise(clamped<std::int16_t>(saved.noiseValue))
+    , m_chUtilization(clamped<std::int16_t>(saved.chUtilization))
+    , m_channel(clamped<std::int16_t>(saved.channel))
+{
+}
+
 } // namespace tessara

@@ -22,6 +22,18 @@ public:
     TSDataPoint(std::int64_t rssi, std::int64_t noise, std::int64_t stationCount,
                 std::int64_t channelUtilization, double timestamp);
 
+    /// The fields of a sample that was saved.
+    struct Saved {
+        std::int64_t rssiValue = 0;
+        std::int64_t noiseValue = 0;
+        std::int64_t channel = kNotAnnounced;
+        std::int64_t stationCount = kNotAnnounced;
+        std::int64_t chUtilization = kNotAnnounced;
+        double timestamp = 0;
+    };
+    /// A saved sample, with its fields as they are.
+    explicit TSDataPoint(const Saved& saved);
+
     std::int64_t rssiValue() const { return m_rssi; }   ///< dBm, -120 for no data
     std::int64_t noiseValue() const { return m_noise; } ///< dBm
     std::int64_t stationCount() const { return m_stationCount; }

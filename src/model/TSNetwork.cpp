@@ -44,6 +44,25 @@ TSNetwork::TSNetwork(ScanDictionary dictionary, double now)
     m_color = colorFor(bssid());
 }
 
+TSNetwork::TSNetwork(NetworkSnapshot saved, double now)
+    : m_lastSeen(saved.lastSeen)
+    , m_lastSeenElapsedSeconds(now - saved.lastSeen)
+    , m_annotations(std::move(saved.annotations))
+    , m_color(std::move(saved.color))
+    , m_loadedFromFile(true)
+{
+    setNetwork(std::move(saved.network));
+    if (m_attributes.deviceName.isEmpty())
+        m_attributes.deviceName = std::move(saved.deviceName);
+    for (const TSDataPoint& sample : saved.dataPoints)
+        addDataPoint(sample);
+}
+
+NetworkSnapshot TSNetwork::snapshot() const
+{
+    return {m_network, dataPoints(), m_color, m_lastSeen, m_attributes.deviceName, m_annotations};
+}
+
 void TSNetwork::setNetwork(ScanDictionary dictionary)
 {
     m_network = std::move(dictionary);

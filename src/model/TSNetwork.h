@@ -5,6 +5,7 @@
 #include "model/NetworkAttributes.h"
 #include "model/NetworkKey.h"
 #include "model/NetworkRow.h"
+#include "model/NetworkSnapshot.h"
 #include "model/OccupiedChannels.h"
 #include "model/RunningStatistic.h"
 #include "model/ScanDictionary.h"
@@ -33,6 +34,12 @@ public:
 
     /// @param now seconds since 1970; stands as `lastSeen` until a scan says otherwise
     TSNetwork(ScanDictionary dictionary, double now);
+    /// A record as it was saved: what follows from the raw data is worked out anew. Asks nothing
+    /// of what belongs to the main thread, so that a file can be read on another.
+    TSNetwork(NetworkSnapshot saved, double now);
+
+    /// What a file keeps of the record.
+    NetworkSnapshot snapshot() const;
 
     // The raw scan dictionary -----------------------------------------------------------------
 

@@ -49,12 +49,6 @@ bool read(const QJsonValue& json, std::optional<std::int64_t>& value)
     return true;
 }
 
-bool isChannelNumber(std::int64_t number)
-{
-    constexpr std::int64_t kHighest = 0xffff; // far beyond any, and far from overflow
-    return number >= 0 && number <= kHighest;
-}
-
 bool read(const QJsonValue& json, std::optional<bool>& value)
 {
     if (!json.isBool())
@@ -88,22 +82,6 @@ QJsonValue jsonOf(bool value)
 QJsonValue jsonOf(const QByteArray& value)
 {
     return QString::fromLatin1(value.toHex());
-}
-
-/// Calls `visit` with each key of a raw scan dictionary and the member that holds its value.
-template <typename Dictionary, typename Visitor>
-void forEachKey(Dictionary& network, const Visitor& visit)
-{
-    visit(QLatin1String("bssid"), network.bssid);
-    visit(QLatin1String("channelNumber"), network.channelNumber);
-    visit(QLatin1String("ssid"), network.ssid);
-    visit(QLatin1String("rssiValue"), network.rssiValue);
-    visit(QLatin1String("noiseMeasurement"), network.noiseMeasurement);
-    visit(QLatin1String("informationElementData"), network.informationElementData);
-    visit(QLatin1String("ibss"), network.ibss);
-    visit(QLatin1String("beaconInterval"), network.beaconInterval);
-    visit(QLatin1String("phyMode"), network.phyMode);
-    visit(QLatin1String("securityMode"), network.securityMode);
 }
 
 /// @return the key whose value is of the wrong kind; none if all are right

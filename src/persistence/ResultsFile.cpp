@@ -1,0 +1,58 @@
+#include "persistence/ResultsFile.h"
+
+#include "foundation/Localized.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+
+namespace tessara {
+
+bool isResultsFileName(const QString& path)
+{
+    return QFileInfo(path).suffix() == QStringView(kResultsExtension);
+}
+
+bool writeResultsFile(const QString& path, const ResultsSnapshot& results,
+                      const WorkProgress& progress, QString& error)
+{
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
+        error = file.errorString();
+        return false;
+    }
+    if (!encodeResults(results, file, progress)) {
+        // The reason of a device that took all it was given is that the work was to end.
+        if (file.error() != QFileDevice::NoError)
+            error = file.errorString();
+        return false;
+    }
+    if (file.commit())
+        return true;
+    error = file.errorString();
+    return false;
+}
+
+std::optional<SavedResults> readResultsFile(const QString& path, double now,
+                                            const WorkProgress& progress, ResultsFileError& error)
+{
+    // What is no file may never answer.
+    QFile file(path);
+    if (QFileInfo(path).exists() && !QFileInfo(path).isFile()) {
+        error.system = localized("This is no file.");
+        return std::nullopt;
+    }
+    if (!file.open(QIODevice::ReadOnly)) {
+        error.system = file.errorString();
+        return std::nullopt;
+    }
+    const qint64 size = file.size();
+    const uchar* bytes = size > 0 ? file.map(0, size) : nullptr;
+    if (size > 0 && !bytes) {
+        error.system = file.errorString();
+        return std::nullopt;
+    }
+    return decodeResults({bytes, static_cast<std::size_t>(size)}, now, progress, error.format);
+}
+
+} // namespace tessara
