@@ -1,10 +1,13 @@
 #include "cli/Command.h"
 #include "cli/InputOptions.h"
+#include "cli/NetworksInput.h"
+#include "cli/ScansOfResults.h"
 #include "foundation/Defaults.h"
 #include "persistence/CSVExport.h"
+#include "persistence/ResultsFile.h"
 #include "persistence/WholeFile.h"
 #include "scanning/recorded/RecordingWriter.h"
-#include "scanning/recorded/Replay.h"
+#include "scanning/recorded/ScanInput.h"
 
 namespace tessara {
 
@@ -18,49 +21,73 @@ bool isCSVName(const QString& path)
 // Each gives what went wrong, or an empty text. A part of the input is not what was asked for:
 // nothing is then put in the output's place.
 
-QString writeRecording(ScanReader& reader, const QString& path)
+QString writeScans(const QString& input, double sweep, const QString& output)
 {
-    RecordingWriter writer(path);
-    while (const auto scan = reader.next()) {
+    const ScanInput scans = openScanInput(input, sweep);
+    if (!scans.reader)
+        return scans.error;
+    RecordingWriter writer(output);
+    while (const auto scan = scans.reader->next()) {
         if (!writer.write(*scan))
             break;
     }
-    if (!reader.error().isEmpty())
-        return reader.error();
+    if (!scans.reader->error().isEmpty())
+        return scans.reader->error();
     writer.finish();
     return writer.error();
 }
 
-QString writeCSV(ScanReader& reader, const QString& path)
+QString writeScansOf(const NetworksInput& results, const QString& output)
 {
-    const Defaults& defaults = Defaults::standard();
-    const Replay result = replay(reader, MergeLimits::fromDefaults(defaults));
-    if (!reader.error().isEmpty())
-        return reader.error();
-    return writeWholeFile(
-        path, csvText(result.networks, allColumns(), defaults.integerForKey(DefaultKey::Units)));
+    RecordingWriter writer(output);
+    forEachScan(results.networks, results.lastScanTime,
+                [&writer](const RecordedScan& scan) { return writer.write(scan); });
+    writer.finish();
+    return writer.error();
+}
+
+QString writeResults(const NetworksInput& results, const QString& output)
+{
+    QString error;
+    const auto snapshot = ResultsSnapshot::of(results.networks, results.lastScanTime);
+    writeResultsFile(
+        output, snapshot, [](double) { return true; }, error);
+    return error.isEmpty() ? QString() : QStringLiteral("%1: %2").arg(output, error);
+}
+
+QString writeCSV(const NetworksInput& results, const QString& output)
+{
+    const qint64 units = Defaults::standard().integerForKey(DefaultKey::Units);
+    return writeWholeFile(output, csvText(results.networks, allColumns(), units));
+}
+
+QString convert(const QString& input, double sweep, const QString& output)
+{
+    if (isRecordingName(output) && !isResultsFileName(input))
+        return writeScans(input, sweep, output);
+    const NetworksInput results = readNetworks(input, sweep);
+    if (!results.error.isEmpty())
+        return results.error;
+    return isResultsFileName(output) ? writeResults(results, output)
+           : isCSVName(output)       ? writeCSV(results, output)
+                                     : writeScansOf(results, output);
 }
 
 ExitStatus run(const QCommandLineParser& parser, const QStringList& arguments)
 {
     if (arguments.size() != 2)
         return wrongUsage(QStringLiteral("convert takes an input and an output"));
-    if (!isRecordingName(arguments[1]) && !isCSVName(arguments[1])) {
+    const QString& output = arguments[1];
+    if (!isRecordingName(output) && !isResultsFileName(output) && !isCSVName(output)) {
         return wrongUsage(
-            QStringLiteral("%1: an output ends in .jsonl, .jsonl.gz or .csv").arg(arguments[1]));
+            QStringLiteral("%1: an output ends in .tessara, .jsonl, .jsonl.gz or .csv")
+                .arg(output));
     }
     QString error;
     const auto sweep = sweepSeconds(parser, error);
     if (!sweep)
         return wrongUsage(error);
-
-    const ScanInput input = openScanInput(arguments[0], *sweep);
-    if (!input.reader) {
-        complain(input.error);
-        return kFailed;
-    }
-    error = isCSVName(arguments[1]) ? writeCSV(*input.reader, arguments[1])
-                                    : writeRecording(*input.reader, arguments[1]);
+    error = convert(arguments[0], *sweep, output);
     if (error.isEmpty())
         return kDone;
     complain(error);
@@ -71,8 +98,8 @@ ExitStatus run(const QCommandLineParser& parser, const QStringList& arguments)
 
 const Command kConvertCommand = {
     "convert", "INPUT OUTPUT",
-    "Writes the scans of a recording or a capture as a recording (.jsonl, .jsonl.gz), or the "
-    "networks after the last one as CSV (.csv).",
+    "Writes the results of an input (.tessara), its scans as a recording (.jsonl, .jsonl.gz), or "
+    "its networks as CSV (.csv).",
     addInputOptions, run};
 
 } // namespace tessara

@@ -1,11 +1,10 @@
 #include "cli/Command.h"
 #include "cli/ElementsJSON.h"
 #include "cli/InputOptions.h"
+#include "cli/NetworksInput.h"
 #include "elements/FieldVisit.h"
-#include "foundation/Defaults.h"
 #include "foundation/HarmlessText.h"
 #include "foundation/Utf8.h"
-#include "scanning/recorded/Replay.h"
 
 #include <QJsonDocument>
 #include <QTextStream>
@@ -102,23 +101,18 @@ ExitStatus printElementsOfInput(const QCommandLineParser& parser, const QString&
     const auto sweep = sweepSeconds(parser, error);
     if (!sweep)
         return wrongUsage(error);
-    const ScanInput input = openScanInput(name, *sweep);
-    if (!input.reader) {
+    const NetworksInput input = readNetworks(name, *sweep);
+    const QString bssid = parser.value(kBSSID);
+    const auto network = std::ranges::find_if(input.networks, [&bssid](const auto& candidate) {
+        return candidate->bssid().compare(bssid, Qt::CaseInsensitive) == 0;
+    });
+    if (network != input.networks.end())
+        printElements((*network)->informationElements(), asJSON);
+    if (!input.error.isEmpty()) {
         complain(input.error);
         return kFailed;
     }
-    const Replay result = replay(*input.reader, MergeLimits::fromDefaults(Defaults::standard()));
-    const QString bssid = parser.value(kBSSID);
-    const auto network = std::ranges::find_if(result.networks, [&bssid](const auto& candidate) {
-        return candidate->bssid().compare(bssid, Qt::CaseInsensitive) == 0;
-    });
-    if (network != result.networks.end())
-        printElements((*network)->informationElements(), asJSON);
-    if (!input.reader->error().isEmpty()) {
-        complain(input.reader->error());
-        return kFailed;
-    }
-    if (network == result.networks.end()) {
+    if (network == input.networks.end()) {
         complain(QStringLiteral("%1 holds no network with the BSSID %2 after its last scan")
                      .arg(name, bssid));
         return kFailed;
@@ -150,7 +144,6 @@ ExitStatus run(const QCommandLineParser& parser, const QStringList& arguments)
 
 const Command kElementsCommand = {
     "elements", "INPUT --bssid BSSID | --hex BYTES",
-    "Shows what a network of a recording or a capture says of itself, element by element.",
-    addOptions, run};
+    "Shows what a network of an input says of itself, element by element.", addOptions, run};
 
 } // namespace tessara

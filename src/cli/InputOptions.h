@@ -1,7 +1,5 @@
 #pragma once
 
-#include "scanning/recorded/ScanInput.h"
-
 #include <QCommandLineParser>
 
 #include <optional>

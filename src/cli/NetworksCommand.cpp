@@ -1,8 +1,8 @@
 #include "cli/Command.h"
 #include "cli/InputOptions.h"
 #include "cli/ListOptions.h"
+#include "cli/NetworksInput.h"
 #include "foundation/Defaults.h"
-#include "scanning/recorded/Replay.h"
 
 namespace tessara {
 
@@ -24,36 +24,30 @@ ExitStatus run(const QCommandLineParser& parser, const QStringList& arguments)
     if (!options || !sweep)
         return wrongUsage(error);
 
-    const ScanInput input = openScanInput(arguments[0], *sweep);
-    if (!input.reader) {
+    const NetworksInput input = readNetworks(arguments[0], *sweep);
+    if (!input.isRead) {
         complain(input.error);
-        return kFailed;
-    }
-    const Replay result = replay(*input.reader, MergeLimits::fromDefaults(Defaults::standard()));
-    const QString readError = input.reader->error();
-    if (result.scans == 0) {
-        complain(readError.isEmpty() ? QStringLiteral("%1 holds no scans").arg(arguments[0])
-                                     : readError);
         return kFailed;
     }
     DisplayPipeline pipeline;
     pipeline.setShownKinds(ShownKinds::fromDefaults(Defaults::standard()));
     pipeline.setSortDescriptors(options->sort);
     pipeline.onFilter(options->filter);
-    pipeline.filterAndSetNetworks(result.networks);
+    pipeline.filterAndSetNetworks(input.networks);
     // What could be read is shown even where the input ends in an error.
     const ExitStatus printed =
-        printList(pipeline, *options, CellContext::fromDefaults(false), result.lastScanTime);
-    if (readError.isEmpty())
+        printList(pipeline, *options, CellContext::fromDefaults(false), input.lastScanTime);
+    if (input.error.isEmpty())
         return printed;
-    complain(readError);
+    complain(input.error);
     return kFailed;
 }
 
 } // namespace
 
 const Command kNetworksCommand = {
-    "networks", "INPUT", "Lists the networks after the last scan of a recording or a capture.",
+    "networks", "INPUT",
+    "Lists the networks of a results file, or after the last scan of a recording or a capture.",
     addOptions, run};
 
 } // namespace tessara
