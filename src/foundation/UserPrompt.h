@@ -23,12 +23,19 @@ struct TSAlert {
     QString accessoryHtml = {}; ///< a line with links below the text; a window alone shows it
 };
 
+/// A kind of file that the user may be asked for.
+struct FileKind {
+    QString name;      ///< in the plural, "Results"
+    QString extension; ///< without the dot
+};
+
 /// Asks the user. The window answers with sheets, the command line with lines on standard error,
 /// a test with what it wants to see happen.
 class UserPrompt {
 public:
     using Answer = std::function<void(int returnCode)>;
     using SuppressibleAnswer = std::function<void(int returnCode, bool suppressed)>;
+    using FileAnswer = std::function<void(const QString& path)>;
     using AlertId = int;
     using ProgressId = int;
 
@@ -49,6 +56,20 @@ public:
     /// Shows that something goes on that the user waits for, until `endProgress`.
     virtual ProgressId beginProgress(const QString& /*message*/) { return 0; }
     virtual void endProgress(ProgressId /*progress*/) {}
+    /// The same for work whose progress is known and that the user may put an end to: `cancel` is
+    /// then called.
+    virtual ProgressId beginProgress(const QString& message, std::function<void()> /*cancel*/)
+    {
+        return beginProgress(message);
+    }
+    /// @param done how much of the work, from 0 to 1
+    virtual void setProgress(ProgressId /*progress*/, double /*done*/) {}
+
+    /// Ask for the path of a file to be written, or of one to be read. `answer` is called only if
+    /// there is one; a path to be written has the extension of its kind, and the user agrees to
+    /// replace what stands there.
+    virtual void beginSavePanel(const FileKind& /*kind*/, FileAnswer /*answer*/) {}
+    virtual void beginOpenPanel(const FileKind& /*kind*/, FileAnswer /*answer*/) {}
 
     /// Tells of something that needs no answer, in the desktop's notification area.
     /// @return false if there is none; the caller then shows an alert

@@ -6,12 +6,30 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
+#include <new>
+
 namespace tessara {
 
 bool isResultsFileName(const QString& path)
 {
     return QFileInfo(path).suffix() == QStringView(kResultsExtension);
 }
+
+namespace {
+
+/// Does the work, and fails where memory does not suffice for it.
+template <typename Work>
+auto withinMemory(QString& error, const Work& work) -> decltype(work())
+{
+    try {
+        return work();
+    } catch (const std::bad_alloc&) {
+        error = localized("There is not enough memory.");
+        return {};
+    }
+}
+
+} // namespace
 
 bool writeResultsFile(const QString& path, const ResultsSnapshot& results,
                       const WorkProgress& progress, QString& error)
@@ -21,7 +39,9 @@ bool writeResultsFile(const QString& path, const ResultsSnapshot& results,
         error = file.errorString();
         return false;
     }
-    if (!encodeResults(results, file, progress)) {
+    const bool isEncoded =
+        withinMemory(error, [&] { return encodeResults(results, file, progress); });
+    if (!isEncoded) {
         // The reason of a device that took all it was given is that the work was to end.
         if (file.error() != QFileDevice::NoError)
             error = file.errorString();
@@ -52,7 +72,9 @@ std::optional<SavedResults> readResultsFile(const QString& path, double now,
         error.system = file.errorString();
         return std::nullopt;
     }
-    return decodeResults({bytes, static_cast<std::size_t>(size)}, now, progress, error.format);
+    return withinMemory(error.system, [&] {
+        return decodeResults({bytes, static_cast<std::size_t>(size)}, now, progress, error.format);
+    });
 }
 
 } // namespace tessara

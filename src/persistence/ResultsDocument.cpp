@@ -1,0 +1,218 @@
+#include "persistence/ResultsDocument.h"
+
+#include "foundation/Defaults.h"
+#include "foundation/Localized.h"
+#include "foundation/Logging.h"
+#include "persistence/ResultsFile.h"
+
+#include <QFileInfo>
+
+namespace tessara {
+
+namespace {
+
+FileKind resultsKind()
+{
+    return {localized("Results"), QStringView(kResultsExtension).toString()};
+}
+
+} // namespace
+
+ResultsDocument::ResultsDocument(ShownResults& results, UserPrompt& prompt, Clock& clock)
+    : m_results(results)
+    , m_prompt(prompt)
+    , m_clock(clock)
+{
+}
+
+ResultsDocument::~ResultsDocument()
+{
+    *m_isOpenCancelled = true; // what is being saved is still saved
+}
+
+// Questions -------------------------------------------------------------------------------------
+
+void ResultsDocument::showSaveAlertIfNeeded(UserPrompt::Answer answer)
+{
+    const bool isSuppressed =
+        Defaults::standard().integerForKey(DefaultKey::SaveAlertSupressionButton) != 0;
+    if (isSuppressed || !hasUnsavedResults()) {
+        answer(TSAlert::kThirdButton);
+        return;
+    }
+    const TSAlert alert{
+        .messageText = localized("Do you want to save the current results?"),
+        .informativeText = localized("Any data will be lost if you don't save it."),
+        .buttons = {localized("Save"), localized("Cancel"), localized("Don't Save")},
+    };
+    m_prompt.beginSuppressibleAlert(alert, [answer = std::move(answer)](int returnCode,
+                                                                        bool suppressed) {
+        Defaults::standard().setValue(DefaultKey::SaveAlertSupressionButton, suppressed ? 1 : 0);
+        answer(returnCode);
+    });
+}
+
+void ResultsDocument::showSavePanel(UserPrompt::FileAnswer answer)
+{
+    m_prompt.beginSavePanel(resultsKind(), [this, answer = std::move(answer)](const QString& path) {
+        m_results.doStop();
+        answer(path);
+    });
+}
+
+void ResultsDocument::doAfterSaving(Action action)
+{
+    showSaveAlertIfNeeded([this, action = std::move(action)](int returnCode) {
+        if (returnCode == TSAlert::kThirdButton) {
+            action();
+        } else if (returnCode == TSAlert::kFirstButton) {
+            showSavePanel(
+                [this, action](const QString& path) { doSaveWithFileInBackground(path, action); });
+        }
+    });
+}
+
+void ResultsDocument::onFileOpen()
+{
+    doAfterSaving([this] { doOpen(); });
+}
+
+void ResultsDocument::onFileSaveAs()
+{
+    showSavePanel([this](const QString& path) { doSaveWithFileInBackground(path, [] {}); });
+}
+
+void ResultsDocument::openFile(const QString& path)
+{
+    showSaveAlertIfNeeded([this, path](int returnCode) {
+        if (returnCode == TSAlert::kThirdButton) {
+            doOpenWithFileInBackground(path);
+        } else if (returnCode == TSAlert::kFirstButton) {
+            // What opens then are the saved results, not the file that was asked for. It is meant
+            // so: they stay in sight.
+            showSavePanel([this](const QString& saved) {
+                doSaveWithFileInBackground(saved,
+                                           [this, saved] { doOpenWithFileInBackground(saved); });
+            });
+        }
+    });
+}
+
+void ResultsDocument::doOpen()
+{
+    m_prompt.beginOpenPanel(resultsKind(),
+                            [this](const QString& path) { doOpenWithFileInBackground(path); });
+}
+
+// Files -----------------------------------------------------------------------------------------
+
+void ResultsDocument::runInBackground(const QString& message,
+                                      std::shared_ptr<std::atomic<bool>> isCancelled, Work work)
+{
+    m_isWorking = true;
+    const auto sheet = m_prompt.beginProgress(message, [isCancelled] { *isCancelled = true; });
+    const auto onMainThread = [this](Action action) {
+        QMetaObject::invokeMethod(this, std::move(action), Qt::QueuedConnection);
+    };
+    m_workers.start([=, this, work = std::move(work)] {
+        int shown = 0; // per cent: more often there is nothing to see
+        const Action rest = work([&](double done) {
+            const int percent = static_cast<int>(done * 100);
+            if (percent != std::exchange(shown, percent))
+                onMainThread([this, sheet, done] { m_prompt.setProgress(sheet, done); });
+            return !*isCancelled;
+        });
+        onMainThread([this, sheet, rest] {
+            m_isWorking = false;
+            m_prompt.endProgress(sheet);
+            rest();
+        });
+    });
+}
+
+void ResultsDocument::doSaveWithFileInBackground(const QString& path, Action didSave)
+{
+    if (m_isWorking)
+        return;
+    const auto snapshot = std::make_shared<const ResultsSnapshot>(
+        ResultsSnapshot::of(m_results.networks(), m_results.lastScanTime()));
+    runInBackground(
+        QStringLiteral("%1 \"%2\"").arg(localized("Saving"), path),
+        std::make_shared<std::atomic<bool>>(false),
+        [this, path, snapshot, didSave = std::move(didSave)](const WorkProgress& progress) {
+            QString error;
+            const bool isSaved = writeResultsFile(path, *snapshot, progress, error);
+            return Action([this, path, didSave, isSaved, error] {
+                if (isSaved) {
+                    didSaveFile(path);
+                    didSave();
+                } else if (!error.isEmpty()) {
+                    showError(localized("The file \"%1\" could not be saved."), path, error);
+                }
+            });
+        });
+}
+
+void ResultsDocument::didSaveFile(const QString& path)
+{
+    setTitle(path);
+}
+
+void ResultsDocument::doOpenWithFileInBackground(const QString& path)
+{
+    if (m_isWorking)
+        return;
+    const QString unreadable = localized("The file \"%1\" could not be read.");
+    if (!isResultsFileName(path)) {
+        showError(unreadable, path,
+                  localized("This file's format is not supported in this version of Tessara."));
+        return;
+    }
+    m_results.doStopAndClearResults();
+    m_isOpenCancelled = std::make_shared<std::atomic<bool>>(false);
+    runInBackground(QStringLiteral("%1 \"%2\"").arg(localized("Opening"), path), m_isOpenCancelled,
+                    [this, path, unreadable, now = m_clock.now()](const WorkProgress& progress) {
+                        ResultsFileError error;
+                        const auto results = readResultsFile(path, now, progress, error);
+                        return Action([this, path, unreadable, results, error] {
+                            if (results) {
+                                didOpenFile(path, *results);
+                            } else if (!error.system.isEmpty()) {
+                                showError(unreadable, path, error.system);
+                            } else if (!error.format.isEmpty()) {
+                                qCWarning(lcPersistence).noquote()
+                                    << path + QStringLiteral(": ") + error.format;
+                                showError(unreadable, path,
+                                          localized("The file does not have a valid format."));
+                            }
+                        });
+                    });
+}
+
+void ResultsDocument::didOpenFile(const QString& path, const SavedResults& results)
+{
+    m_results.didFindNetworks(results.networks, results.lastScanTime);
+    setTitle(path);
+    Q_EMIT fileDidOpen(path);
+}
+
+void ResultsDocument::setTitle(const QString& path)
+{
+    QString title = QFileInfo(path).absoluteFilePath();
+    title.chop(static_cast<qsizetype>(std::size(kResultsExtension))); // and the dot
+    m_title = title;
+    Q_EMIT titleDidChange();
+}
+
+void ResultsDocument::showError(const QString& message, const QString& path, const QString& reason)
+{
+    const TSAlert alert{
+        .messageText = message.arg(QFileInfo(path).fileName()),
+        .informativeText = reason,
+        .buttons = {localized("OK")},
+        .style = TSAlert::Style::kCritical,
+    };
+    m_prompt.beginAlert(alert, [](int) {});
+}
+
+} // namespace tessara
