@@ -58,7 +58,8 @@ public:
     virtual void endProgress(ProgressId /*progress*/) {}
     /// The same for work whose progress is known and that the user may put an end to: `cancel` is
     /// then called.
-    virtual ProgressId beginProgress(const QString& message, std::function<void()> /*cancel*/)
+    virtual ProgressId beginCancellableProgress(const QString& message,
+                                                std::function<void()> /*cancel*/)
     {
         return beginProgress(message);
     }

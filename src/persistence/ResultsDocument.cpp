@@ -110,7 +110,8 @@ void ResultsDocument::runInBackground(const QString& message,
                                       std::shared_ptr<std::atomic<bool>> isCancelled, Work work)
 {
     m_isWorking = true;
-    const auto sheet = m_prompt.beginProgress(message, [isCancelled] { *isCancelled = true; });
+    const auto sheet =
+        m_prompt.beginCancellableProgress(message, [isCancelled] { *isCancelled = true; });
     const auto onMainThread = [this](Action action) {
         QMetaObject::invokeMethod(this, std::move(action), Qt::QueuedConnection);
     };

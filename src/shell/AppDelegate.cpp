@@ -5,6 +5,7 @@
 #include "shell/ActivityIndicator.h"
 #include "shell/GraphTabs.h"
 #include "shell/IntervalMenu.h"
+#include "shell/RecentDocumentsMenu.h"
 #include "shell/TSNetworksView.h"
 #include "shell/TSSideView.h"
 
@@ -35,12 +36,13 @@ AppDelegate::AppDelegate(WiFiService& wifi, TSVendorDatabaseHelper& vendors,
     : m_window(services.clock)
     , m_scanCycle(chooseInterface(wifi), services, *this, m_prompt)
     , m_clock(services.clock)
+    , m_document(*this, m_prompt, services.clock)
     , m_vendors(vendors)
     , m_annotations(annotations)
     , m_vendorsUpdate(vendors, m_prompt, services.clock)
     , m_exchange(m_window,
                  {m_scanCycle, m_pipeline, annotations, services.clock,
-                  [this] { return hasUnsavedResults(); }},
+                  [this] { return m_document.hasUnsavedResults(); }},
                  m_prompt)
 {
     m_window.installEventFilter(this);
@@ -51,7 +53,13 @@ AppDelegate::AppDelegate(WiFiService& wifi, TSVendorDatabaseHelper& vendors,
 
 void AppDelegate::connectParts(NotificationCenter& notifications)
 {
-    connect(&m_window, &MainWindow::scanRequested, &m_scanCycle, &ScanCycle::doStart);
+    connect(&m_window, &MainWindow::openRequested, &m_document, &ResultsDocument::onFileOpen);
+    connect(&m_window, &MainWindow::saveAsRequested, &m_document, &ResultsDocument::onFileSaveAs);
+    connect(&m_window, &MainWindow::fileRequested, this, &AppDelegate::openFile);
+    connect(&m_document, &ResultsDocument::titleDidChange, this, &AppDelegate::configureAll);
+    connect(&m_document, &ResultsDocument::fileDidOpen, this, &RecentDocumentsMenu::addDocument);
+    connect(&m_window, &MainWindow::scanRequested, this,
+            [this] { m_document.doAfterSaving([this] { m_scanCycle.doStart(); }); });
     connect(&m_window, &MainWindow::stopRequested, &m_scanCycle, &ScanCycle::doStop);
     connect(&m_window, &MainWindow::quickFilterSelected, this, &AppDelegate::selectQuickFilter);
     connect(&m_window, &MainWindow::filterChanged, this, &AppDelegate::onFilter);
@@ -108,8 +116,9 @@ void AppDelegate::restoreWindowFrame()
         m_window.takeFirstRunFrame();
 }
 
-void AppDelegate::applicationWillFinishLaunching()
+void AppDelegate::applicationWillFinishLaunching(const QString& file)
 {
+    m_scanCycle.setDisableAutoScan(!file.isEmpty());
     m_vendors.expandDatabase();
     m_vendors.loadInBackground();
     loadDefaults();
@@ -130,6 +139,14 @@ void AppDelegate::applicationWillFinishLaunching()
             configureAll();
     });
     showWindow();
+    if (!file.isEmpty())
+        openFile(file);
+}
+
+void AppDelegate::openFile(const QString& path)
+{
+    m_scanCycle.setDisableAutoScan(true);
+    m_document.openFile(path);
 }
 
 void AppDelegate::loadDefaults()
@@ -208,16 +225,15 @@ bool AppDelegate::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched != &m_window || event->type() != QEvent::Close)
         return QObject::eventFilter(watched, event);
-    if (windowShouldClose())
-        windowWillClose();
-    else
-        event->ignore();
+    // Perhaps later, when the user has been asked.
+    windowShouldClose();
+    event->setAccepted(m_didTerminate);
     return true;
 }
 
-bool AppDelegate::windowShouldClose()
+void AppDelegate::windowShouldClose()
 {
-    return true;
+    m_document.doAfterSaving([this] { windowWillClose(); });
 }
 
 void AppDelegate::windowWillClose()
@@ -354,17 +370,12 @@ void AppDelegate::prepareAndReload()
         configureAll();
 }
 
-/// Live results, whose notes are the user's to write.
-bool AppDelegate::hasUnsavedResults() const
-{
-    return !m_scanCycle.networks().empty();
-}
-
 void AppDelegate::configureAll()
 {
     configureNetworksView();
     configureSelectedTabView();
     m_window.setLeftFooter(m_pipeline.footerText());
+    showWindowTitle();
     updateStateInfo();
 }
 
@@ -387,7 +398,7 @@ void AppDelegate::configureNetworksView()
     TSNetworksView& table = m_window.networksView();
     table.setFontSize(defaults.doubleForKey(DefaultKey::NetworksViewFontSize));
     table.setPlaceholderText(placeholderText());
-    table.setAnnotationsEditable(hasUnsavedResults());
+    table.setAnnotationsEditable(m_document.hasUnsavedResults()); // those of a file are its own
     table.setFilteredColumns(m_pipeline.filteredColumnIdentifiers());
     table.setNetworks(m_pipeline.filteredNetworks(),
                       CellContext::fromDefaults(m_scanCycle.isScanning()));
@@ -411,16 +422,28 @@ void AppDelegate::selectAssociatedNetworks()
 
 void AppDelegate::updateStateInfo()
 {
-    m_window.setStateInfo(stateInfo(m_scanCycle.isScanning(), m_window.windowTitle(),
-                                    m_scanCycle.currentInterface().get()));
+    m_window.setStateInfo(
+        stateInfo(m_scanCycle.isScanning(), windowTitle(), m_scanCycle.currentInterface().get()));
+}
+
+QString AppDelegate::windowTitle() const
+{
+    const QString title = QStringView(kApplicationTitle).toString();
+    if (!m_document.title().isEmpty())
+        return m_document.title();
+    return m_scanCycle.isScanning() ? QStringLiteral("%1 - %2").arg(title, localized("Scanning"))
+                                    : title;
 }
 
 void AppDelegate::updateWindowTitle()
 {
-    const QString title = QStringView(kApplicationTitle).toString();
-    m_window.setWindowTitle(m_scanCycle.isScanning()
-                                ? QStringLiteral("%1 - %2").arg(title, localized("Scanning"))
-                                : title);
+    m_document.leaveFile();
+    showWindowTitle();
+}
+
+void AppDelegate::showWindowTitle()
+{
+    m_window.setDocument(windowTitle(), m_document.hasUnsavedResults());
 }
 
 void AppDelegate::validateScanStopItems()

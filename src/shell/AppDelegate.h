@@ -2,6 +2,7 @@
 
 #include "filtering/DisplayPipeline.h"
 #include "filtering/TSSideViewItem.h"
+#include "persistence/ResultsDocument.h"
 #include "persistence/VendorDatabaseUpdate.h"
 #include "scanning/ScanCycle.h"
 #include "shell/ExchangeCommands.h"
@@ -14,7 +15,7 @@ namespace tessara {
 
 /// The one controller of the application: builds its parts, connects them, and brings them up
 /// and down in order. What the parts do is theirs.
-class AppDelegate final : public QObject, private ScanCycleViews {
+class AppDelegate final : public QObject, private ScanCycleViews, private ShownResults {
     Q_OBJECT
 
 public:
@@ -25,7 +26,10 @@ public:
                 TSAnnotationsHelper& annotations, EngineServices services);
 
     /// Reads the settings and shows the window; the first time, scanning may start by itself.
-    void applicationWillFinishLaunching();
+    /// @param file results to be shown instead; empty for none
+    void applicationWillFinishLaunching(const QString& file = {});
+    /// Shows the results of a file that the system hands over.
+    void openFile(const QString& path);
     /// Ends the application without asking, as the system wants it when the session ends.
     void terminate();
 
@@ -54,6 +58,16 @@ private:
     void startActivityIndicator() override;
     void stopActivityIndicator() override;
 
+    // The results that the document saves and replaces.
+    const NetworkList& networks() const override { return m_scanCycle.networks(); }
+    double lastScanTime() const override { return m_scanCycle.lastScanTime(); }
+    void doStop() override { m_scanCycle.doStop(); }
+    void doStopAndClearResults() override { m_scanCycle.doStopAndClearResults(); }
+    void didFindNetworks(const NetworkList& networks, double lastScanTime) override
+    {
+        m_scanCycle.didFindNetworks(networks, lastScanTime);
+    }
+
     void connectParts(NotificationCenter& notifications);
     void loadDefaults();
     void selectQuickFilter(QuickFilter filter);
@@ -73,8 +87,9 @@ private:
     void sideViewSelectionDidChange(const std::optional<TSSideViewItem>& item);
     void userDidClickSourceList();
     QString placeholderText() const;
-    bool hasUnsavedResults() const;
-    bool windowShouldClose();
+    QString windowTitle() const;
+    void showWindowTitle();
+    void windowShouldClose();
     void windowWillClose();
     void applicationWillTerminate();
     std::optional<Association> association() const;
@@ -84,6 +99,7 @@ private:
     SheetPrompt m_prompt{m_window};
     ScanCycle m_scanCycle;
     Clock& m_clock;
+    ResultsDocument m_document;
     TSVendorDatabaseHelper& m_vendors;
     TSAnnotationsHelper& m_annotations;
     VendorDatabaseUpdate m_vendorsUpdate;

@@ -3,6 +3,7 @@
 #include "filtering/ThresholdKeys.h"
 #include "foundation/Defaults.h"
 #include "foundation/Localized.h"
+#include "persistence/ResultsFile.h"
 #include "shell/ActivityIndicator.h"
 #include "shell/ElidedLabel.h"
 #include "shell/FilterField.h"
@@ -10,6 +11,7 @@
 #include "shell/GraphTabs.h"
 #include "shell/HelpPage.h"
 #include "shell/IntervalMenu.h"
+#include "shell/RecentDocumentsMenu.h"
 #include "shell/TSNetworksView.h"
 #include "shell/TSSideView.h"
 
@@ -17,15 +19,19 @@
 #include <QActionGroup>
 #include <QApplication>
 #include <QComboBox>
+#include <QDropEvent>
+#include <QFileInfo>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLayout>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QMimeData>
 #include <QScreen>
 #include <QSplitter>
 #include <QStatusBar>
 #include <QToolBar>
+#include <QUrl>
 
 #include <algorithm>
 
@@ -65,6 +71,19 @@ std::optional<std::int64_t> thresholdOf(const QKeyEvent& event)
     return thresholdOfKey(QChar(event.key()));
 }
 
+/// The one file of a drag, if it is named like a results file; in what case does not matter here.
+std::optional<QString> resultsFileOf(const QMimeData& data)
+{
+    const QList<QUrl> urls = data.urls();
+    if (urls.size() != 1 || !urls[0].isLocalFile())
+        return std::nullopt;
+    const QString path = urls[0].toLocalFile();
+    return QFileInfo(path).suffix().compare(QStringView(kResultsExtension), Qt::CaseInsensitive) ==
+                   0
+               ? std::optional(path)
+               : std::nullopt;
+}
+
 } // namespace
 
 MainWindow::MainWindow(const Clock& clock)
@@ -85,6 +104,7 @@ MainWindow::MainWindow(const Clock& clock)
     m_splitter->setStretchFactor(1, 1); // the table takes the room there is
     m_splitter->setCollapsible(1, false);
     setCentralWidget(m_splitter);
+    setAcceptDrops(true);
     setContextMenuPolicy(Qt::NoContextMenu); // it would offer to hide the toolbar
     makeActions();
     makeQuickFilter();
@@ -173,12 +193,7 @@ void MainWindow::setQuickFilter(QuickFilter filter)
 
 void MainWindow::makeMenus()
 {
-    QMenu& file = *menuBar()->addMenu(localized("&File"));
-    makeExchangeItems(file);
-    file.addSeparator();
-    QAction* quit = file.addAction(localized("&Quit"), this, &QWidget::close);
-    quit->setShortcuts({QKeySequence(Qt::CTRL | Qt::Key_Q), QKeySequence(Qt::CTRL | Qt::Key_W)});
-    quit->setMenuRole(QAction::QuitRole);
+    makeFileMenu();
 
     makeEditMenu();
 
@@ -273,6 +288,27 @@ void MainWindow::onCopy()
         Q_EMIT copyRequested();
 }
 
+void MainWindow::makeFileMenu()
+{
+    QMenu& file = *menuBar()->addMenu(localized("&File"));
+    file.addAction(localized("&Open..."), this, &MainWindow::openRequested)
+        ->setShortcut(QKeySequence::Open);
+    auto* recent = new RecentDocumentsMenu(&file);
+    connect(recent, &RecentDocumentsMenu::documentTriggered, this, &MainWindow::fileRequested);
+    file.addMenu(recent);
+    file.addSeparator();
+    // Results that can be saved are never those of a file: each time there is a name to be given.
+    m_saveAs = file.addAction(localized("Save &As..."), this, &MainWindow::saveAsRequested);
+    m_saveAs->setShortcuts(
+        {QKeySequence(Qt::CTRL | Qt::Key_S), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S)});
+    file.addSeparator();
+    makeExchangeItems(file);
+    file.addSeparator();
+    QAction* quit = file.addAction(localized("&Quit"), this, &QWidget::close);
+    quit->setShortcuts({QKeySequence(Qt::CTRL | Qt::Key_Q), QKeySequence(Qt::CTRL | Qt::Key_W)});
+    quit->setMenuRole(QAction::QuitRole);
+}
+
 void MainWindow::makeFooter()
 {
     m_leftFooter = new ElidedLabel;
@@ -282,6 +318,16 @@ void MainWindow::makeFooter()
     statusBar()->setContentsMargins(kFooterMargin, 0, 0, 0);
     statusBar()->addWidget(m_leftFooter, 1);
     statusBar()->addPermanentWidget(m_rightFooter);
+}
+
+void MainWindow::setDocument(const QString& title, bool hasUnsavedResults)
+{
+    // "[*]" is the place of the mark; twice, it stands for itself.
+    QString text = title;
+    setWindowTitle(text.replace(QLatin1String("[*]"), QLatin1String("[*][*]")) +
+                   QLatin1String("[*]"));
+    setWindowModified(hasUnsavedResults);
+    m_saveAs->setEnabled(hasUnsavedResults);
 }
 
 void MainWindow::setScanStopEnabled(bool canScan, bool canStop)
@@ -341,6 +387,29 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event)
         }
     }
     return QMainWindow::eventFilter(watched, event);
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event)
+{
+    dragMoveEvent(event);
+}
+
+void MainWindow::dragMoveEvent(QDragMoveEvent* event)
+{
+    if (!resultsFileOf(*event->mimeData()))
+        return;
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+}
+
+void MainWindow::dropEvent(QDropEvent* event)
+{
+    const auto file = resultsFileOf(*event->mimeData());
+    if (!file)
+        return;
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+    Q_EMIT fileRequested(*file);
 }
 
 QByteArray MainWindow::splitterState() const

@@ -40,6 +40,9 @@ public:
     ActivityIndicator& activityIndicator() { return *m_activityIndicator; }
     IntervalMenu& intervalMenu() { return *m_intervalMenu; }
 
+    /// @param title what is shown
+    /// @param hasUnsavedResults marks the title, and makes the results ones to be saved
+    void setDocument(const QString& title, bool hasUnsavedResults);
     /// Which of Scan and Stop makes sense now.
     void setScanStopEnabled(bool canScan, bool canStop);
     void setStateInfo(const StateInfo& info);
@@ -65,6 +68,10 @@ public:
     void takeFirstRunFrame();
 
 Q_SIGNALS:
+    void openRequested();
+    void saveAsRequested();
+    /// A file was dropped here, or chosen from the recent ones.
+    void fileRequested(const QString& path);
     void scanRequested();
     void stopRequested();
     void quickFilterSelected(QuickFilter filter);
@@ -83,6 +90,9 @@ Q_SIGNALS:
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dragMoveEvent(QDragMoveEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
 private:
     void makeActions();
@@ -90,6 +100,7 @@ private:
     void makeMenus();
     void makeExchangeItems(QMenu& file);
     void makeEditMenu();
+    void makeFileMenu();
     void makeQuickFilter();
     void makeFilter();
     void makeFooter();
@@ -105,6 +116,7 @@ private:
     TSNetworksView* m_networksView;
     GraphTabs* m_graphTabs;
     QPointer<HelpPage> m_filterHelp; ///< while it is open
+    QAction* m_saveAs = nullptr;
     QAction* m_scan = nullptr;
     QAction* m_stop = nullptr;
     QAction* m_showSideView = nullptr;

@@ -1,10 +1,11 @@
 #include "shell/SheetPrompt.h"
 
 #include "foundation/Localized.h"
+#include "shell/TSProgressWindow.h"
 
 #include <QCheckBox>
+#include <QFileDialog>
 #include <QMessageBox>
-#include <QProgressDialog>
 #include <QPushButton>
 
 namespace tessara {
@@ -88,17 +89,74 @@ UserPrompt::AlertId SheetPrompt::beginSuppressibleAlert(const TSAlert& alert,
     });
 }
 
-UserPrompt::ProgressId SheetPrompt::beginProgress(const QString& message)
+UserPrompt::ProgressId SheetPrompt::show(TSProgressWindow* progress)
 {
-    // Without an end that is known, and without a way to cancel it.
-    auto* progress = new QProgressDialog(message, QString(), 0, 0, &m_window);
     progress->setAttribute(Qt::WA_DeleteOnClose);
-    progress->setWindowModality(Qt::WindowModal);
-    progress->setMinimumDuration(0);
     progress->show();
     const ProgressId id = ++m_lastAlert;
     m_sheets.emplace(id, progress);
     return id;
+}
+
+UserPrompt::ProgressId SheetPrompt::beginProgress(const QString& message)
+{
+    return show(new TSProgressWindow(message, m_window));
+}
+
+UserPrompt::ProgressId SheetPrompt::beginCancellableProgress(const QString& message,
+                                                             std::function<void()> cancel)
+{
+    auto* progress = new TSProgressWindow(message, m_window);
+    progress->setCancellable();
+    connect(progress, &TSProgressWindow::didCancel, this, std::move(cancel));
+    return show(progress);
+}
+
+void SheetPrompt::setProgress(ProgressId progress, double done)
+{
+    const auto sheet = m_sheets.find(progress);
+    if (sheet != m_sheets.end())
+        static_cast<TSProgressWindow*>(sheet->second)->setProgress(done);
+}
+
+QFileDialog* SheetPrompt::makePanel(const FileKind& kind)
+{
+    auto* panel = new QFileDialog(&m_window);
+    panel->setAttribute(Qt::WA_DeleteOnClose);
+    panel->setNameFilter(QStringLiteral("%1 (*.%2)").arg(kind.name, kind.extension));
+    return panel;
+}
+
+void SheetPrompt::beginOpenPanel(const FileKind& kind, FileAnswer answer)
+{
+    QFileDialog* panel = makePanel(kind);
+    panel->setFileMode(QFileDialog::ExistingFile);
+    connect(panel, &QFileDialog::fileSelected, this, answer);
+    panel->open();
+}
+
+void SheetPrompt::beginSavePanel(const FileKind& kind, FileAnswer answer)
+{
+    openSavePanel(kind, QString(), std::move(answer));
+}
+
+/// @param path what the panel begins with
+void SheetPrompt::openSavePanel(const FileKind& kind, const QString& path, FileAnswer answer)
+{
+    QFileDialog* panel = makePanel(kind);
+    panel->setAcceptMode(QFileDialog::AcceptSave);
+    panel->setDefaultSuffix(kind.extension);
+    if (!path.isEmpty())
+        panel->selectFile(path);
+    connect(panel, &QFileDialog::fileSelected, this,
+            [this, kind, answer = std::move(answer)](const QString& chosen) {
+                const QString ending = u'.' + kind.extension;
+                if (chosen.endsWith(ending))
+                    answer(chosen);
+                else // a file of that name and the ending may be there: the panel asks about it
+                    openSavePanel(kind, chosen + ending, answer);
+            });
+    panel->open();
 }
 
 void SheetPrompt::endAlert(AlertId alert)

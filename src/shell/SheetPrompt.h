@@ -7,10 +7,13 @@
 #include <map>
 
 class QDialog;
+class QFileDialog;
 class QMessageBox;
 class QWidget;
 
 namespace tessara {
+
+class TSProgressWindow;
 
 /// Asks the user with sheets: message boxes that block their window alone and let everything
 /// else, the scan included, go on.
@@ -26,11 +29,19 @@ public:
     AlertId beginSuppressibleAlert(const TSAlert& alert, SuppressibleAnswer answer) override;
     ProgressId beginProgress(const QString& message) override;
     void endProgress(ProgressId progress) override { endAlert(progress); }
+    ProgressId beginCancellableProgress(const QString& message,
+                                        std::function<void()> cancel) override;
+    void setProgress(ProgressId progress, double done) override;
+    void beginSavePanel(const FileKind& kind, FileAnswer answer) override;
+    void beginOpenPanel(const FileKind& kind, FileAnswer answer) override;
 
 private:
     QMessageBox* makeSheet(const TSAlert& alert);
     /// Shows a sheet until it is answered or ended.
     AlertId open(QMessageBox* box, Answer answer);
+    ProgressId show(TSProgressWindow* progress);
+    QFileDialog* makePanel(const FileKind& kind);
+    void openSavePanel(const FileKind& kind, const QString& path, FileAnswer answer);
 
     QWidget& m_window;
     std::map<AlertId, QDialog*> m_sheets; ///< those that are showing

@@ -30,6 +30,9 @@ int main(int argc, char** argv)
     parser.setApplicationDescription(QStringLiteral("A Wi-Fi network analyser."));
     parser.addHelpOption();
     parser.addVersionOption();
+    parser.addPositionalArgument(QStringLiteral("file"),
+                                 QStringLiteral("Show the results of this file (.tessara)."),
+                                 QStringLiteral("[FILE]"));
     addSettingsOptions(parser);
     parser.process(application);
     if (const QString error = applySettingsOptions(parser); !error.isEmpty()) {
@@ -48,6 +51,6 @@ int main(int argc, char** argv)
     QObject::connect(
         &delegate, &AppDelegate::didTerminate, &application, [] { QApplication::exit(0); },
         Qt::QueuedConnection);
-    delegate.applicationWillFinishLaunching();
+    delegate.applicationWillFinishLaunching(parser.positionalArguments().value(0));
     return QApplication::exec();
 }
