@@ -36,7 +36,12 @@ BinaryPlistWriter::Ref BinaryPlistWriter::begin()
 
 void BinaryPlistWriter::flush()
 {
-    m_isFailed = m_isFailed || m_device.write(m_buffer) != m_buffer.size();
+    // A device that is full takes a part, and tells why at the next attempt.
+    for (qsizetype taken = 0; taken < m_buffer.size() && !m_isFailed;) {
+        const qint64 now = m_device.write(m_buffer.constData() + taken, m_buffer.size() - taken);
+        m_isFailed = now <= 0;
+        taken += now;
+    }
     m_flushed += static_cast<std::uint64_t>(m_buffer.size());
     m_buffer.resize(0); // keeps its memory
 }

@@ -39,11 +39,17 @@ bool writeResultsFile(const QString& path, const ResultsSnapshot& results,
         error = file.errorString();
         return false;
     }
+    bool isToEnd = false;
+    const WorkProgress observed = [&](double done) {
+        isToEnd = !progress(done);
+        return !isToEnd;
+    };
     const bool isEncoded =
-        withinMemory(error, [&] { return encodeResults(results, file, progress); });
+        withinMemory(error, [&] { return encodeResults(results, file, observed); });
+    if (isToEnd)
+        return false;
     if (!isEncoded) {
-        // The reason of a device that took all it was given is that the work was to end.
-        if (file.error() != QFileDevice::NoError)
+        if (error.isEmpty())
             error = file.errorString();
         return false;
     }

@@ -1,5 +1,6 @@
 // Results files across another implementation of keyed archives, in both directions.
 #include "persistence/ResultsFile.h"
+#include "persistence/TestResults.h"
 
 #include <QFile>
 #include <QProcess>
@@ -14,7 +15,6 @@ using namespace tessara;
 
 namespace {
 
-const WorkProgress kGoOn = [](double) { return true; };
 constexpr double kNow = 1'700'000'100;
 
 // The form that the peer prints and reads: one line a value, texts and bytes in hexadecimal.
