@@ -167,7 +167,7 @@ void SheetPrompt::endAlert(AlertId alert)
     QDialog* dialog = sheet->second;
     m_sheets.erase(sheet);
     dialog->disconnect(this);
-    dialog->close();
+    dialog->done(QDialog::Rejected); // not close: a sheet can refuse that
 }
 
 } // namespace tessara

@@ -3,29 +3,34 @@
 #include "charts/TSSignalStrengthView.h"
 #include "foundation/Defaults.h"
 #include "foundation/Directories.h"
+#include "persistence/ResultsFile.h"
 #include "scanning/ScriptedInterface.h"
 #include "shell/FilterField.h"
 #include "shell/GraphTabs.h"
 #include "shell/IntervalMenu.h"
 #include "shell/TSNetworksView.h"
+#include "shell/TSProgressWindow.h"
 #include "shell/TSSideView.h"
 #include "shell/TestNetworks.h"
 #include "support/ManualClock.h"
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QClipboard>
 #include <QComboBox>
+#include <QDropEvent>
+#include <QFile>
 #include <QFileDialog>
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QMimeData>
-#include <QProgressDialog>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QStatusBar>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QUrl>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -77,13 +82,13 @@ protected:
             directory.filePath(QStringLiteral("tessara.conf")), QSettings::IniFormat));
     }
 
-    void launch()
+    void launch(const QString& file = {})
     {
         delegate = std::make_unique<AppDelegate>(
             service, vendors, annotations,
             EngineServices{clock, pause, notifications,
                            [this](auto body) { bodies.push_back(std::move(body)); }});
-        delegate->applicationWillFinishLaunching();
+        delegate->applicationWillFinishLaunching(file);
         settle();
     }
 
@@ -108,21 +113,10 @@ protected:
     QAction& action(const char* text)
     {
         for (QAction* each : window().findChildren<QAction*>()) {
-            if (each->text() == QLatin1String(text))
+            if (each->text() == QString::fromUtf8(text))
                 return *each;
         }
         throw std::out_of_range(text);
-    }
-
-    /// Answers the panel that a command has opened, and lets the work on the file end.
-    void choose(const QString& path)
-    {
-        auto* panel = window().findChild<QFileDialog*>();
-        ASSERT_NE(panel, nullptr);
-        panel->selectFile(path);
-        static_cast<QDialog*>(panel)->accept();
-        settle();
-        ASSERT_TRUE(QTest::qWaitFor([this] { return !window().findChild<QProgressDialog*>(); }));
     }
 
     QString cell(int row, QStringView identifier)
@@ -134,6 +128,57 @@ protected:
     QLineEdit* editor() { return table().viewport()->findChild<QLineEdit*>(); }
 
     QList<QMessageBox*> sheets() { return window().findChildren<QMessageBox*>(); }
+
+    void answerSheet(const char* button)
+    {
+        ASSERT_EQ(sheets().size(), 1);
+        for (QAbstractButton* each : sheets().front()->buttons()) {
+            if (each->text() == QLatin1String(button))
+                each->click();
+        }
+        settle();
+    }
+    /// Chooses a file in the panel that is open, and waits for the work on it.
+    void choose(const QString& path)
+    {
+        auto* panel = window().findChild<QFileDialog*>();
+        ASSERT_NE(panel, nullptr);
+        panel->selectFile(path);
+        static_cast<QDialog*>(panel)->accept();
+        settle();
+        waitForWork();
+    }
+    void waitForWork()
+    {
+        EXPECT_TRUE(QTest::qWaitFor(
+            [this] { return window().findChildren<TSProgressWindow*>().isEmpty(); }, 60'000));
+        settle();
+    }
+    /// A results file of one network.
+    QString savedFile(const char* name)
+    {
+        const QString path = directory.filePath(QLatin1String(name));
+        QString error;
+        EXPECT_TRUE(writeResultsFile(
+            path, ResultsSnapshot::of(testNetworks(1), 5), [](double) { return true; }, error));
+        return path;
+    }
+    bool accepts(const QStringList& paths)
+    {
+        QMimeData data;
+        QList<QUrl> urls;
+        for (const QString& path : paths)
+            urls.append(QUrl::fromLocalFile(path));
+        data.setUrls(urls);
+        QDragEnterEvent enter({10, 10}, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, {});
+        QCoreApplication::sendEvent(&window(), &enter);
+        if (!enter.isAccepted() || enter.dropAction() != Qt::CopyAction)
+            return false;
+        QDropEvent drop({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, {});
+        QCoreApplication::sendEvent(&window(), &drop);
+        waitForWork();
+        return true;
+    }
 
     std::vector<std::string> names() const
     {
@@ -464,6 +509,7 @@ TEST_F(AppDelegateTest, ANoteIsWrittenInTheTableWhileTheScanGoesOn)
     action("Edit &Annotation").trigger();
     QTest::keyClicks(editor(), QStringLiteral("wet"));
     window().close();
+    answerSheet("Don't Save");
     EXPECT_EQ(onDisk.load(), QString());
     EXPECT_EQ(onDisk.annotationsForNetwork(QStringLiteral("00:00:00:00:00:02")),
               QStringLiteral("wet"))
@@ -513,4 +559,83 @@ TEST_F(AppDelegateTest, CopiesTheSelectedRowsWithTheKeyboardInTheTable)
     EXPECT_EQ(text.count(QStringLiteral("\n\nBSSID: ")), 1);
     EXPECT_FALSE(text.contains(QStringLiteral("Noise"))) << "a hidden column";
     EXPECT_TRUE(clipboard.mimeData()->hasFormat(QStringLiteral("text/rtf")));
+}
+
+TEST_F(AppDelegateTest, SavesResultsAndOpensThemAgain)
+{
+    launch();
+    QAction& saveAs = action("Save &As...");
+    EXPECT_FALSE(saveAs.isEnabled());
+    engineScans({named("0:0:0:0:0:1", "Beta"), named("0:0:0:0:0:2", "alpha")});
+    EXPECT_TRUE(saveAs.isEnabled());
+    EXPECT_TRUE(window().isWindowModified());
+
+    saveAs.trigger();
+    choose(directory.filePath(QStringLiteral("walk [*].tessara")));
+    EXPECT_FALSE(delegate->scanCycle().isScanning());
+    EXPECT_FALSE(saveAs.isEnabled());
+    EXPECT_FALSE(window().isWindowModified());
+
+    action("Scan").trigger(); // asks nothing: all is saved
+    EXPECT_TRUE(delegate->scanCycle().isScanning());
+    EXPECT_EQ(title(), QStringLiteral("Tessara - Scanning"));
+    EXPECT_TRUE(names().empty());
+
+    action("&Open...").trigger();
+    choose(directory.filePath(QStringLiteral("walk [*].tessara")));
+    EXPECT_THAT(names(), ElementsAre("alpha", "Beta"));
+    EXPECT_FALSE(delegate->scanCycle().isScanning());
+    EXPECT_EQ(window().windowTitle(),
+              directory.filePath(QStringLiteral("walk [*][*]")) + QStringLiteral("[*]"));
+    EXPECT_FALSE(saveAs.isEnabled()) << "it is as it was opened";
+    action("walk [*].tessara").trigger(); // a recent one
+    waitForWork();
+    EXPECT_THAT(names(), ElementsAre("alpha", "Beta"));
+}
+
+TEST_F(AppDelegateTest, ShowsAFileThatItWasStartedWithInsteadOfScanning)
+{
+    launch(savedFile("a.tessara"));
+    waitForWork();
+    EXPECT_FALSE(delegate->scanCycle().isScanning());
+    EXPECT_THAT(names(), ElementsAre("Net 0"));
+}
+
+TEST_F(AppDelegateTest, TakesOneDroppedResultsFile)
+{
+    Defaults::standard().setValue(DefaultKey::AutoScan, false);
+    const QString file = savedFile("a.tessara");
+    launch();
+    EXPECT_FALSE(accepts({file, file}));
+    EXPECT_FALSE(accepts({directory.filePath(QStringLiteral("a.txt"))}));
+    EXPECT_TRUE(names().empty());
+    EXPECT_TRUE(accepts({file}));
+    EXPECT_THAT(names(), ElementsAre("Net 0"));
+    EXPECT_TRUE(accepts({directory.filePath(QStringLiteral("a.TESSARA"))}));
+    EXPECT_EQ(sheets().size(), 1) << "case counts when it is opened";
+    EXPECT_THAT(names(), ElementsAre("Net 0"));
+}
+
+TEST_F(AppDelegateTest, AsksBeforeAScanOrAnEndLosesResults)
+{
+    launch();
+    engineScans({named("0:0:0:0:0:1", "Beta")});
+    action("Stop").trigger();
+    action("Scan").trigger();
+    answerSheet("Cancel");
+    EXPECT_FALSE(delegate->scanCycle().isScanning());
+    EXPECT_THAT(names(), ElementsAre("Beta"));
+
+    QSignalSpy ends(delegate.get(), &AppDelegate::didTerminate);
+    window().close();
+    EXPECT_TRUE(window().isVisible());
+    answerSheet("Cancel");
+    EXPECT_TRUE(window().isVisible());
+    EXPECT_EQ(ends.size(), 0);
+
+    window().close();
+    answerSheet("Save");
+    choose(directory.filePath(QStringLiteral("a.tessara")));
+    EXPECT_EQ(ends.size(), 1);
+    EXPECT_TRUE(QFile::exists(directory.filePath(QStringLiteral("a.tessara"))));
 }

@@ -1,7 +1,11 @@
 #include "shell/SheetPrompt.h"
 
+#include "shell/TSProgressWindow.h"
+
 #include <QAbstractButton>
+#include <QFileDialog>
 #include <QMessageBox>
+#include <QProgressBar>
 #include <QTest>
 #include <QWidget>
 
@@ -74,4 +78,43 @@ TEST_F(SheetPromptTest, TakesASheetAwayWithoutAnAnswer)
     EXPECT_EQ(sheet(), nullptr);
     prompt.endAlert(alert); // gone already
     EXPECT_TRUE(answers.empty());
+}
+
+TEST_F(SheetPromptTest, KeepsProgressInSightUntilTheWorkHasEnded)
+{
+    int cancels = 0;
+    const auto sheetOf = [this] { return window.findChild<TSProgressWindow*>(); };
+    const auto progress =
+        prompt.beginCancellableProgress(QStringLiteral("Saving"), [&cancels] { ++cancels; });
+    prompt.setProgress(progress, 0.5);
+    auto* bar = sheetOf()->findChild<QProgressBar*>();
+    EXPECT_EQ(bar->value() * 2, bar->maximum());
+    QTest::keyClick(sheetOf(), Qt::Key_Escape);
+    QTest::keyClick(sheetOf(), Qt::Key_Escape);
+    EXPECT_EQ(cancels, 1);
+    EXPECT_TRUE(sheetOf()->isVisible());
+    prompt.endProgress(progress);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(sheetOf(), nullptr);
+    prompt.setProgress(progress, 1); // late
+
+    prompt.beginProgress(QStringLiteral("Checking"));
+    QTest::keyClick(sheetOf(), Qt::Key_Escape);
+    EXPECT_TRUE(sheetOf()->isVisible()) << "what cannot be cancelled";
+}
+
+TEST_F(SheetPromptTest, GivesASavedFileTheExtensionOfItsKind)
+{
+    QStringList paths;
+    prompt.beginSavePanel({QStringLiteral("Results"), QStringLiteral("tessara")},
+                          [&paths](const QString& path) { paths += path; });
+    const auto choose = [this](const char* path) {
+        auto* panel = window.findChild<QFileDialog*>();
+        Q_EMIT panel->fileSelected(QLatin1String(path));
+        delete panel;
+    };
+    choose("/tmp/walk.txt");
+    EXPECT_TRUE(paths.isEmpty()) << "the panel asks anew, as there may be such a file";
+    choose("/tmp/walk.txt.tessara");
+    EXPECT_EQ(paths, QStringList{QStringLiteral("/tmp/walk.txt.tessara")});
 }
