@@ -3,6 +3,7 @@
 #include "cli/ScanSession.h"
 #include "foundation/Defaults.h"
 #include "foundation/TerminationSignals.h"
+#include "persistence/ResultsFile.h"
 #include "scanning/SystemWiFiService.h"
 
 #include <QCoreApplication>
@@ -25,7 +26,8 @@ void addOptions(QCommandLineParser& parser)
         {QStringLiteral("duration"), QStringLiteral("Stop after this time (at Control-C)."),
          QStringLiteral("SECONDS")},
         {QStringLiteral("save"),
-         QStringLiteral("Record the scans to FILE (.jsonl, .jsonl.gz) instead of a table."),
+         QStringLiteral("Instead of a table, save the results to FILE (.tessara), or record the "
+                        "scans to it (.jsonl, .jsonl.gz)."),
          QStringLiteral("FILE")},
         {QStringLiteral("watch"), QStringLiteral("Repaint the table in place every 2 seconds.")},
     });
@@ -58,9 +60,10 @@ ExitStatus run(const QCommandLineParser& parser, const QStringList& arguments)
     ScanSession::Options options{*list, std::nullopt, parser.isSet(QStringLiteral("watch"))};
     if (parser.isSet(QStringLiteral("save"))) {
         options.saveTo = parser.value(QStringLiteral("save"));
-        if (!isRecordingName(*options.saveTo))
-            return wrongUsage(QStringLiteral("--save %1: a file ends in .jsonl or .jsonl.gz")
-                                  .arg(*options.saveTo));
+        if (!isRecordingName(*options.saveTo) && !isResultsFileName(*options.saveTo))
+            return wrongUsage(
+                QStringLiteral("--save %1: a file ends in .tessara, .jsonl or .jsonl.gz")
+                    .arg(*options.saveTo));
     }
     if (options.watch && list->format != ListOptions::Format::kTable)
         return wrongUsage(QStringLiteral("--watch shows a table: it goes with no other format"));

@@ -4,8 +4,10 @@
 #include "cli/Terminal.h"
 #include "foundation/Defaults.h"
 #include "foundation/HarmlessText.h"
+#include "persistence/ResultsFile.h"
 #include "scanning/StateInfo.h"
 
+#include <QSaveFile>
 #include <QTextStream>
 
 #include <algorithm>
@@ -34,7 +36,7 @@ ScanSession::ScanSession(ScanRuntime& runtime, std::shared_ptr<CWInterface> inte
     m_pipeline.setShownKinds(ShownKinds::fromDefaults(Defaults::standard()));
     m_pipeline.setSortDescriptors(m_options.list.sort);
     m_pipeline.onFilter(m_options.list.filter);
-    if (m_options.saveTo) {
+    if (m_options.saveTo && isRecordingName(*m_options.saveTo)) {
         m_writer = std::make_unique<RecordingWriter>(*m_options.saveTo);
         connect(&runtime.notifications(), &NotificationCenter::scanDidEnd, this,
                 &ScanSession::record, Qt::QueuedConnection);
@@ -47,6 +49,13 @@ bool ScanSession::start()
         complain(m_writer->error());
         return false;
     }
+    if (m_options.saveTo && !m_writer) {
+        QSaveFile place(*m_options.saveTo);
+        if (!place.open(QIODevice::WriteOnly)) {
+            complain(QStringLiteral("%1: %2").arg(*m_options.saveTo, place.errorString()));
+            return false;
+        }
+    }
     m_cycle.doStart();
     return true;
 }
@@ -57,9 +66,26 @@ ExitStatus ScanSession::finish()
     m_cycle.doStop();
     if (m_ownsScreen)
         QTextStream(stdout) << kLeaveScreen;
-    if (!m_writer)
-        return printList(m_pipeline, m_options.list, CellContext::fromDefaults(false),
-                         lastScanTime);
+    if (m_writer)
+        return finishRecording();
+    if (m_options.saveTo)
+        return saveResults(lastScanTime);
+    return printList(m_pipeline, m_options.list, CellContext::fromDefaults(false), lastScanTime);
+}
+
+ExitStatus ScanSession::saveResults(double lastScanTime) const
+{
+    QString error;
+    const auto results = ResultsSnapshot::of(m_cycle.networks(), lastScanTime);
+    if (writeResultsFile(
+            *m_options.saveTo, results, [](double) { return true; }, error))
+        return kDone;
+    complain(QStringLiteral("%1: %2").arg(*m_options.saveTo, error));
+    return kFailed;
+}
+
+ExitStatus ScanSession::finishRecording()
+{
     if (m_recorded && m_writer->finish())
         return kDone;
     complain(m_recorded ? m_writer->error() : QStringLiteral("nothing was recorded"));

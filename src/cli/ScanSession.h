@@ -20,7 +20,7 @@ class ScanSession final : public QObject, private ScanCycleViews {
 public:
     struct Options {
         ListOptions list;
-        std::optional<QString> saveTo; ///< a recording of all scans
+        std::optional<QString> saveTo; ///< a recording of all scans, or the results at the end
         bool watch = false;            ///< repaint the table at each tick
     };
 
@@ -40,6 +40,8 @@ private:
     void setLeftFooterVisible(bool visible) override;
 
     void record();
+    ExitStatus finishRecording();
+    ExitStatus saveResults(double lastScanTime) const;
     void repaint();
     QString statusLine() const;
 
