@@ -6,6 +6,9 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
+#include <unistd.h>
+
+#include <cerrno>
 #include <new>
 
 namespace tessara {
@@ -51,6 +54,12 @@ bool writeResultsFile(const QString& path, const ResultsSnapshot& results,
     if (!isEncoded) {
         if (error.isEmpty())
             error = file.errorString();
+        return false;
+    }
+    // Some file systems tell only now that there was no room; a commit alone would not say so.
+    // (EINVAL: they do not know how to.)
+    if (::fsync(file.handle()) != 0 && errno != EINVAL) {
+        error = qt_error_string(errno);
         return false;
     }
     if (file.commit())
