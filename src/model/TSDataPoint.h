@@ -31,7 +31,7 @@ public:
         std::int64_t chUtilization = kNotAnnounced;
         double timestamp = 0;
     };
-    /// A saved sample, with its fields as they are.
+    /// A saved sample, with its fields as they are, if they are of this world.
     explicit TSDataPoint(const Saved& saved);
 
     std::int64_t rssiValue() const { return m_rssi; }   ///< dBm, -120 for no data

@@ -25,7 +25,6 @@ public:
         : m_name(name)
     {
     }
-    const char* name() const { return m_name; }
 
 private:
     friend class ArchivedValue;
@@ -152,6 +151,7 @@ private:
     Object resolved(Ref ref);
     ArchivedValue value(const char* name, Ref ref) { return {*this, name, resolved(ref)}; }
     Object classOf(const Object& object) const;
+
     std::optional<BinaryPlistReader> m_plist;
     Object m_objects; ///< the array `$objects`
     std::uint64_t m_budget = 0;

@@ -194,7 +194,7 @@ void ResultsDocument::didOpenFile(const QString& path, const SavedResults& resul
 {
     m_results.didFindNetworks(results.networks, results.lastScanTime);
     setTitle(path);
-    Q_EMIT fileDidOpen(path);
+    Q_EMIT fileDidOpen(QFileInfo(path).absoluteFilePath());
 }
 
 void ResultsDocument::setTitle(const QString& path)

@@ -100,7 +100,6 @@ protected:
     }
 
     QString inFolder(const char* name) const { return folder.filePath(QString::fromLatin1(name)); }
-    QString titleOf(const char* name) const { return inFolder(name); }
 
     void waitForWork()
     {
@@ -138,14 +137,14 @@ TEST_F(ResultsDocumentTest, ShowsWhatWasSavedUnderTheNameOfTheFile)
     EXPECT_TRUE(document.hasUnsavedResults());
     save(inFolder("a.tessara"));
     EXPECT_FALSE(shown.isScanning) << "what is saved stands still";
-    EXPECT_EQ(document.title(), titleOf("a"));
+    EXPECT_EQ(document.title(), inFolder("a"));
     EXPECT_FALSE(document.hasUnsavedResults());
 
     shown.doStopAndClearResults();
     open(inFolder("a.tessara"));
     EXPECT_EQ(shown.list.size(), 2U);
     EXPECT_EQ(shown.referenceTime, 1'700'000'003);
-    EXPECT_EQ(document.title(), titleOf("a"));
+    EXPECT_EQ(document.title(), inFolder("a"));
     EXPECT_THAT(user.sheets, ElementsAre(HasSubstr("Saving \"/"), HasSubstr("Opening \"/")));
     EXPECT_THAT(user.alerts, IsEmpty());
 }
@@ -208,7 +207,7 @@ TEST_F(ResultsDocumentTest, ShowsTheSavedResultsRatherThanTheFileThatWasToOpen)
     document.openFile(inFolder("other.tessara"));
     EXPECT_TRUE(QTest::qWaitFor([this] { return user.sheets.size() == 3; }, 60'000));
     waitForWork();
-    EXPECT_EQ(document.title(), titleOf("mine"));
+    EXPECT_EQ(document.title(), inFolder("mine"));
     EXPECT_EQ(shown.list.size(), 5U);
 }
 
