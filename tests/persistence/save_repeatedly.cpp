@@ -1,6 +1,9 @@
-// Saves one of two lists after the other to the same file, until it is killed.
+// Saves one of two lists after the other to the same file, until it is killed. Writes a byte to
+// standard output after each save.
 #include "persistence/ResultsFile.h"
 #include "persistence/TestResults.h"
+
+#include <cstdio>
 
 using namespace tessara;
 
@@ -15,5 +18,7 @@ int main(int argc, char** argv)
         if (!writeResultsFile(QString::fromLocal8Bit(argv[1]), isLarge ? large : small, kGoOn,
                               error))
             return 1;
+        std::putchar('.');
+        std::fflush(stdout);
     }
 }
