@@ -27,7 +27,8 @@ ResultsDocument::ResultsDocument(ShownResults& results, UserPrompt& prompt, Cloc
 
 ResultsDocument::~ResultsDocument()
 {
-    *m_isOpenCancelled = true; // what is being saved is still saved
+    if (m_isOpenCancelled)
+        *m_isOpenCancelled = true; // but what is being saved is still saved
 }
 
 // Questions -------------------------------------------------------------------------------------
@@ -106,12 +107,17 @@ void ResultsDocument::doOpen()
 
 // Files -----------------------------------------------------------------------------------------
 
-void ResultsDocument::runInBackground(const QString& message,
-                                      std::shared_ptr<std::atomic<bool>> isCancelled, Work work)
+ResultsDocument::Job ResultsDocument::beginJob(const QString& message, const QString& path)
 {
     m_isWorking = true;
-    const auto sheet =
-        m_prompt.beginCancellableProgress(message, [isCancelled] { *isCancelled = true; });
+    auto isCancelled = std::make_shared<std::atomic<bool>>(false);
+    const auto sheet = m_prompt.beginCancellableProgress(
+        QStringLiteral("%1 \"%2\"").arg(message, path), [isCancelled] { *isCancelled = true; });
+    return {sheet, isCancelled};
+}
+
+void ResultsDocument::runInBackground(const Job& job, Work work)
+{
     const auto onMainThread = [this](Action action) {
         QMetaObject::invokeMethod(this, std::move(action), Qt::QueuedConnection);
     };
@@ -120,38 +126,58 @@ void ResultsDocument::runInBackground(const QString& message,
         const Action rest = work([&](double done) {
             const int percent = static_cast<int>(done * 100);
             if (percent != std::exchange(shown, percent))
-                onMainThread([this, sheet, done] { m_prompt.setProgress(sheet, done); });
-            return !*isCancelled;
+                onMainThread([this, job, done] { m_prompt.setProgress(job.sheet, done); });
+            return !*job.isCancelled;
         });
-        onMainThread([this, sheet, rest] {
+        onMainThread([this, job, rest] {
             m_isWorking = false;
-            m_prompt.endProgress(sheet);
+            m_prompt.endProgress(job.sheet);
             rest();
         });
     });
+}
+
+/// Takes the records as they are, some at a time, so that the window does not stand still. They do
+/// not change meanwhile: the scan has been stopped, and another one has records of its own.
+void ResultsDocument::copyRecords(const NetworkList& networks,
+                                  const std::shared_ptr<ResultsSnapshot>& copy,
+                                  const Action& didCopy)
+{
+    constexpr std::size_t kSamplesAtOnce = 200'000; // a few milliseconds
+    std::size_t samples = 0;
+    while (copy->networks.size() < networks.size() && samples < kSamplesAtOnce) {
+        copy->networks.push_back(networks[copy->networks.size()]->snapshot());
+        samples += copy->networks.back().dataPoints.size();
+    }
+    if (copy->networks.size() == networks.size()) {
+        didCopy();
+        return;
+    }
+    QMetaObject::invokeMethod(
+        this, [=, this] { copyRecords(networks, copy, didCopy); }, Qt::QueuedConnection);
 }
 
 void ResultsDocument::doSaveWithFileInBackground(const QString& path, Action didSave)
 {
     if (m_isWorking)
         return;
-    const auto snapshot = std::make_shared<const ResultsSnapshot>(
-        ResultsSnapshot::of(m_results.networks(), m_results.lastScanTime()));
-    runInBackground(
-        QStringLiteral("%1 \"%2\"").arg(localized("Saving"), path),
-        std::make_shared<std::atomic<bool>>(false),
-        [this, path, snapshot, didSave = std::move(didSave)](const WorkProgress& progress) {
-            QString error;
-            const bool isSaved = writeResultsFile(path, *snapshot, progress, error);
-            return Action([this, path, didSave, isSaved, error] {
-                if (isSaved) {
-                    didSaveFile(path);
-                    didSave();
-                } else if (!error.isEmpty()) {
-                    showError(localized("The file \"%1\" could not be saved."), path, error);
-                }
-            });
+    const Job job = beginJob(localized("Saving"), path);
+    const auto copy = std::make_shared<ResultsSnapshot>();
+    copy->lastScanTime = m_results.lastScanTime();
+    const Work work = [this, path, copy,
+                       didSave = std::move(didSave)](const WorkProgress& progress) {
+        QString error;
+        const bool isSaved = writeResultsFile(path, *copy, progress, error);
+        return Action([this, path, didSave, isSaved, error] {
+            if (isSaved) {
+                didSaveFile(path);
+                didSave();
+            } else if (!error.isEmpty()) {
+                showError(localized("The file \"%1\" could not be saved."), path, error);
+            }
         });
+    };
+    copyRecords(m_results.networks(), copy, [this, job, work] { runInBackground(job, work); });
 }
 
 void ResultsDocument::didSaveFile(const QString& path)
@@ -170,24 +196,23 @@ void ResultsDocument::doOpenWithFileInBackground(const QString& path)
         return;
     }
     m_results.doStopAndClearResults();
-    m_isOpenCancelled = std::make_shared<std::atomic<bool>>(false);
-    runInBackground(QStringLiteral("%1 \"%2\"").arg(localized("Opening"), path), m_isOpenCancelled,
-                    [this, path, unreadable, now = m_clock.now()](const WorkProgress& progress) {
-                        ResultsFileError error;
-                        const auto results = readResultsFile(path, now, progress, error);
-                        return Action([this, path, unreadable, results, error] {
-                            if (results) {
-                                didOpenFile(path, *results);
-                            } else if (!error.system.isEmpty()) {
-                                showError(unreadable, path, error.system);
-                            } else if (!error.format.isEmpty()) {
-                                qCWarning(lcPersistence).noquote()
-                                    << path + QStringLiteral(": ") + error.format;
-                                showError(unreadable, path,
-                                          localized("The file does not have a valid format."));
-                            }
-                        });
-                    });
+    const Job job = beginJob(localized("Opening"), path);
+    m_isOpenCancelled = job.isCancelled;
+    runInBackground(job, [this, path, unreadable,
+                          now = m_clock.now()](const WorkProgress& progress) {
+        ResultsFileError error;
+        const auto results = readResultsFile(path, now, progress, error);
+        return Action([this, path, unreadable, results, error] {
+            if (results) {
+                didOpenFile(path, *results);
+            } else if (!error.system.isEmpty()) {
+                showError(unreadable, path, error.system);
+            } else if (!error.format.isEmpty()) {
+                qCWarning(lcPersistence).noquote() << path + QStringLiteral(": ") + error.format;
+                showError(unreadable, path, localized("The file does not have a valid format."));
+            }
+        });
+    });
 }
 
 void ResultsDocument::didOpenFile(const QString& path, const SavedResults& results)

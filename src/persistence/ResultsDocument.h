@@ -60,7 +60,12 @@ Q_SIGNALS:
     void fileDidOpen(const QString& path);
 
 private:
-    /// What is left to do on the main thread when work has ended.
+    /// Work behind a progress sheet.
+    struct Job {
+        UserPrompt::ProgressId sheet;
+        std::shared_ptr<std::atomic<bool>> isCancelled;
+    };
+    /// Gives what is left to do on the main thread when the work has ended.
     using Work = std::function<Action(const WorkProgress& progress)>;
 
     void showSaveAlertIfNeeded(UserPrompt::Answer answer);
@@ -70,8 +75,10 @@ private:
     void doOpenWithFileInBackground(const QString& path);
     void didSaveFile(const QString& path);
     void didOpenFile(const QString& path, const SavedResults& results);
-    void runInBackground(const QString& message, std::shared_ptr<std::atomic<bool>> isCancelled,
-                         Work work);
+    Job beginJob(const QString& message, const QString& path);
+    void runInBackground(const Job& job, Work work);
+    void copyRecords(const NetworkList& networks, const std::shared_ptr<ResultsSnapshot>& copy,
+                     const Action& didCopy);
     void setTitle(const QString& path);
     void showError(const QString& message, const QString& path, const QString& reason);
 
@@ -80,8 +87,7 @@ private:
     Clock& m_clock;
     QString m_title;
     bool m_isWorking = false;
-    std::shared_ptr<std::atomic<bool>> m_isOpenCancelled =
-        std::make_shared<std::atomic<bool>>(false); ///< of the latest one
+    std::shared_ptr<std::atomic<bool>> m_isOpenCancelled; ///< of the latest one, if any
     WorkerThreads m_workers; // last: joined while all of the above still stands
 };
 

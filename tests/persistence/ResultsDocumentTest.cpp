@@ -250,10 +250,13 @@ TEST_F(ResultsDocumentTest, TellsWhyResultsCannotBeSavedAndKeepsThemUnsaved)
 
 TEST_F(ResultsDocumentTest, MovesTheProgressAndEndsWhenTheUserCancels)
 {
-    shown.list = scannedNetworks(50);
+    shown.list = scannedNetworks(50, 5000); // more than are copied at once
     save(inFolder("a.tessara"));
     EXPECT_THAT(user.progress, testing::SizeIs(testing::Ge(20U)));
     EXPECT_TRUE(std::ranges::is_sorted(user.progress));
+    open(inFolder("a.tessara"));
+    ASSERT_EQ(shown.list.size(), 50U);
+    EXPECT_EQ(shown.list.back()->history().size(), 5000U);
 
     user.cancels = true;
     document.leaveFile();
