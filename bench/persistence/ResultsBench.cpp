@@ -180,7 +180,7 @@ public:
         qFatal("%s", qUtf8Printable(alert.informativeText));
     }
     void endAlert(AlertId) override {}
-    void beginSavePanel(const FileKind&, FileAnswer answer) override
+    void beginSavePanel(const FileKind&, const FileAnswer& answer) override
     {
         answer(file() + QStringLiteral(".tessara"));
     }

@@ -2,9 +2,9 @@
 #include "charts/TSSignalStrengthView.h"
 #include "cli/Command.h"
 #include "cli/InputOptions.h"
+#include "cli/NetworksInput.h"
 #include "filtering/DisplayPipeline.h"
 #include "foundation/Defaults.h"
-#include "scanning/recorded/Replay.h"
 
 #include <QRegularExpression>
 
@@ -146,18 +146,13 @@ ExitStatus run(const QCommandLineParser& parser, const QStringList& arguments)
     if (!options)
         return wrongUsage(error);
 
-    const ScanInput input = openScanInput(arguments[0], *sweep);
-    if (!input.reader)
+    const NetworksInput input = readNetworks(arguments[0], *sweep);
+    if (!input.error.isEmpty())
         return fail(input.error);
     const Defaults& defaults = Defaults::standard();
-    const Replay result = replay(*input.reader, MergeLimits::fromDefaults(defaults));
-    if (!input.reader->error().isEmpty())
-        return fail(input.reader->error());
-    if (result.scans == 0)
-        return fail(QStringLiteral("%1 holds no scans").arg(arguments[0]));
     DisplayPipeline pipeline;
     pipeline.setShownKinds(ShownKinds::fromDefaults(defaults));
-    pipeline.filterAndSetNetworks(result.networks);
+    pipeline.filterAndSetNetworks(input.networks);
     const NetworkList& networks = pipeline.filteredNetworks();
     if (const QString absent = select(options->bssids, networks); !absent.isEmpty())
         return fail(QStringLiteral("%1 holds no network %2").arg(arguments[0], absent));
@@ -167,7 +162,7 @@ ExitStatus run(const QCommandLineParser& parser, const QStringList& arguments)
     chart->resize(options->size);
     chart->setUnits(unitsOfSetting(defaults.integerForKey(DefaultKey::Units)));
     chart->setTimescale(options->timescale);
-    chart->setReferenceTime(result.lastScanTime);
+    chart->setReferenceTime(input.lastScanTime);
     chart->setItemHighlightEnabled(!options->bssids.isEmpty());
     chart->setNetworks(networks);
     const QString fault = writeChart(*chart, options->output);
@@ -177,7 +172,6 @@ ExitStatus run(const QCommandLineParser& parser, const QStringList& arguments)
 } // namespace
 
 const Command kChartCommand = {
-    "chart",    "INPUT", "Paints a chart of a recording or a capture (.png, .pdf, .svg).",
-    addOptions, run,     true};
+    "chart", "INPUT", "Paints a chart of an input (.png, .pdf, .svg).", addOptions, run, true};
 
 } // namespace tessara

@@ -59,7 +59,7 @@ public:
     /// The same for work whose progress is known and that the user may put an end to: `cancel` is
     /// then called.
     virtual ProgressId beginCancellableProgress(const QString& message,
-                                                std::function<void()> /*cancel*/)
+                                                const std::function<void()>& /*cancel*/)
     {
         return beginProgress(message);
     }
@@ -69,8 +69,8 @@ public:
     /// Ask for the path of a file to be written, or of one to be read. `answer` is called only if
     /// there is one; a path to be written has the extension of its kind, and the user agrees to
     /// replace what stands there.
-    virtual void beginSavePanel(const FileKind& /*kind*/, FileAnswer /*answer*/) {}
-    virtual void beginOpenPanel(const FileKind& /*kind*/, FileAnswer /*answer*/) {}
+    virtual void beginSavePanel(const FileKind& /*kind*/, const FileAnswer& /*answer*/) {}
+    virtual void beginOpenPanel(const FileKind& /*kind*/, const FileAnswer& /*answer*/) {}
 
     /// Tells of something that needs no answer, in the desktop's notification area.
     /// @return false if there is none; the caller then shows an alert

@@ -104,11 +104,11 @@ UserPrompt::ProgressId SheetPrompt::beginProgress(const QString& message)
 }
 
 UserPrompt::ProgressId SheetPrompt::beginCancellableProgress(const QString& message,
-                                                             std::function<void()> cancel)
+                                                             const std::function<void()>& cancel)
 {
     auto* progress = new TSProgressWindow(message, m_window);
     progress->setCancellable();
-    connect(progress, &TSProgressWindow::didCancel, this, std::move(cancel));
+    connect(progress, &TSProgressWindow::didCancel, this, cancel);
     return show(progress);
 }
 
@@ -127,7 +127,7 @@ QFileDialog* SheetPrompt::makePanel(const FileKind& kind)
     return panel;
 }
 
-void SheetPrompt::beginOpenPanel(const FileKind& kind, FileAnswer answer)
+void SheetPrompt::beginOpenPanel(const FileKind& kind, const FileAnswer& answer)
 {
     QFileDialog* panel = makePanel(kind);
     panel->setFileMode(QFileDialog::ExistingFile);
@@ -135,27 +135,26 @@ void SheetPrompt::beginOpenPanel(const FileKind& kind, FileAnswer answer)
     panel->open();
 }
 
-void SheetPrompt::beginSavePanel(const FileKind& kind, FileAnswer answer)
+void SheetPrompt::beginSavePanel(const FileKind& kind, const FileAnswer& answer)
 {
-    openSavePanel(kind, QString(), std::move(answer));
+    openSavePanel(kind, QString(), answer);
 }
 
 /// @param path what the panel begins with
-void SheetPrompt::openSavePanel(const FileKind& kind, const QString& path, FileAnswer answer)
+void SheetPrompt::openSavePanel(const FileKind& kind, const QString& path, const FileAnswer& answer)
 {
     QFileDialog* panel = makePanel(kind);
     panel->setAcceptMode(QFileDialog::AcceptSave);
     panel->setDefaultSuffix(kind.extension);
     if (!path.isEmpty())
         panel->selectFile(path);
-    connect(panel, &QFileDialog::fileSelected, this,
-            [this, kind, answer = std::move(answer)](const QString& chosen) {
-                const QString ending = u'.' + kind.extension;
-                if (chosen.endsWith(ending))
-                    answer(chosen);
-                else // a file of that name and the ending may be there: the panel asks about it
-                    openSavePanel(kind, chosen + ending, answer);
-            });
+    connect(panel, &QFileDialog::fileSelected, this, [this, kind, answer](const QString& chosen) {
+        const QString ending = u'.' + kind.extension;
+        if (chosen.endsWith(ending))
+            answer(chosen);
+        else // a file of that name and the ending may be there: the panel asks about it
+            openSavePanel(kind, chosen + ending, answer);
+    });
     panel->open();
 }
 

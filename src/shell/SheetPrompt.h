@@ -30,10 +30,10 @@ public:
     ProgressId beginProgress(const QString& message) override;
     void endProgress(ProgressId progress) override { endAlert(progress); }
     ProgressId beginCancellableProgress(const QString& message,
-                                        std::function<void()> cancel) override;
+                                        const std::function<void()>& cancel) override;
     void setProgress(ProgressId progress, double done) override;
-    void beginSavePanel(const FileKind& kind, FileAnswer answer) override;
-    void beginOpenPanel(const FileKind& kind, FileAnswer answer) override;
+    void beginSavePanel(const FileKind& kind, const FileAnswer& answer) override;
+    void beginOpenPanel(const FileKind& kind, const FileAnswer& answer) override;
 
 private:
     QMessageBox* makeSheet(const TSAlert& alert);
@@ -41,7 +41,7 @@ private:
     AlertId open(QMessageBox* box, Answer answer);
     ProgressId show(TSProgressWindow* progress);
     QFileDialog* makePanel(const FileKind& kind);
-    void openSavePanel(const FileKind& kind, const QString& path, FileAnswer answer);
+    void openSavePanel(const FileKind& kind, const QString& path, const FileAnswer& answer);
 
     QWidget& m_window;
     std::map<AlertId, QDialog*> m_sheets; ///< those that are showing

@@ -37,7 +37,7 @@ public:
         return 0;
     }
     ProgressId beginCancellableProgress(const QString& message,
-                                        std::function<void()> cancel) override
+                                        const std::function<void()>& cancel) override
     {
         sheets.push_back(message.toStdString());
         ++openSheets;
@@ -47,12 +47,12 @@ public:
     }
     void setProgress(ProgressId, double value) override { progress.push_back(value); }
     void endProgress(ProgressId) override { --openSheets; }
-    void beginSavePanel(const FileKind&, FileAnswer answer) override
+    void beginSavePanel(const FileKind&, const FileAnswer& answer) override
     {
         if (!path.isEmpty())
             answer(path);
     }
-    void beginOpenPanel(const FileKind&, FileAnswer answer) override { answer(pathToOpen); }
+    void beginOpenPanel(const FileKind&, const FileAnswer& answer) override { answer(pathToOpen); }
 
     int code = TSAlert::kThirdButton;
     bool suppresses = false;
