@@ -635,7 +635,9 @@ TEST_F(AppDelegateTest, AsksBeforeAScanOrAnEndLosesResults)
 
     window().close();
     answerSheet("Save");
-    choose(directory.filePath(QStringLiteral("a.tessara")));
+    Q_EMIT window().findChild<QFileDialog*>()->fileSelected(
+        directory.filePath(QStringLiteral("a.tessara")));
+    waitForWork();
     EXPECT_EQ(ends.size(), 1);
     EXPECT_TRUE(QFile::exists(directory.filePath(QStringLiteral("a.tessara"))));
 }
