@@ -76,7 +76,9 @@ QString writeChart(TSSignalStrengthView& chart, const QString& path)
     QSaveFile file(path);
     if (file.open(QIODevice::WriteOnly) && formatOf(path)->write(chart, file) && file.commit())
         return {};
-    return QStringLiteral("%1: %2").arg(path, file.errorString());
+    return QStringLiteral("%1: %2").arg(path, file.error() == QFileDevice::NoError
+                                                  ? QStringLiteral("the picture is too large")
+                                                  : file.errorString());
 }
 
 } // namespace tessara

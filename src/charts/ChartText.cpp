@@ -38,8 +38,15 @@ struct TextRun {
     double width;
 };
 
-TextRun makeRun(const QString& text, const QFont& font, const QPaintDevice& device)
+TextRun makeRun(QString text, const QFont& font, const QPaintDevice& device)
 {
+    // Names come from the air; a picture of XML may not hold these.
+    std::ranges::replace_if(
+        text,
+        [](QChar c) {
+            return c.category() == QChar::Other_Control || c == QChar(0xfffe) || c == QChar(0xffff);
+        },
+        QChar(QChar::ReplacementCharacter));
     // The painter measures no otherwise than this device does.
     return {text, font, QFontMetricsF(font, &device).horizontalAdvance(text)};
 }

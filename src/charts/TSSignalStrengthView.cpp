@@ -252,6 +252,8 @@ QImage TSSignalStrengthView::imageWithSubviews()
 {
     const double ratio = devicePixelRatioF();
     QImage image((QSizeF(size()) * ratio).toSize(), QImage::Format_RGB32);
+    if (image.isNull())
+        return image; // there is no room for it
     image.setDevicePixelRatio(ratio);
     QPainter painter(&image);
     paint(painter);

@@ -91,9 +91,11 @@ std::optional<ChartOptions> chartOptions(const QCommandLineParser& parser, QStri
     options.bssids = parser.values(kBssid);
 
     bool isNumber = true;
-    options.timescale = parser.isSet(kTimescale)
-                            ? parser.value(kTimescale).toLongLong(&isNumber)
-                            : Defaults::standard().integerForKey(kind->timescale);
+    options.timescale =
+        parser.isSet(kTimescale)
+            ? parser.value(kTimescale).toLongLong(&isNumber)
+            : std::clamp<qint64>(Defaults::standard().integerForKey(kind->timescale), 1,
+                                 kLongestTimescale);
     if (!isNumber || options.timescale < 1 || options.timescale > kLongestTimescale) {
         error = QStringLiteral("--timescale takes seconds from 1 to %1").arg(kLongestTimescale);
         return std::nullopt;

@@ -1,5 +1,6 @@
 #include "cli/DirectoryOptions.h"
 
+#include "cli/Command.h"
 #include "foundation/Directories.h"
 #include "persistence/TSAnnotationsHelper.h"
 #include "persistence/TSVendorDatabaseHelper.h"
@@ -10,9 +11,12 @@ namespace tessara {
 
 namespace {
 
-QString installVendors(const QString& file)
+const QString kVendors = QStringLiteral("vendors");
+const QString kAnnotations = QStringLiteral("annotations");
+
+QString installVendors(const QCommandLineParser& parser)
 {
-    if (file.isEmpty()) {
+    if (!parser.isSet(kVendors)) {
         TSVendorDatabaseHelper& shared = TSVendorDatabaseHelper::sharedDatabase();
         // A newer version replaces the database when its window starts; here one is enough.
         if (!QFileInfo::exists(shared.pathToDatabase()))
@@ -20,20 +24,25 @@ QString installVendors(const QString& file)
         Directories::installed().vendors = &shared;
         return {};
     }
-    static TSVendorDatabaseHelper named({.database = file});
+    static TSVendorDatabaseHelper named({.database = parser.value(kVendors)});
     Directories::installed().vendors = &named;
     return named.load();
 }
 
-QString installAnnotations(const QString& file)
+QString installAnnotations(const QCommandLineParser& parser)
 {
-    if (file.isEmpty()) {
-        Directories::installed().annotations = &TSAnnotationsHelper::sharedAnnotations();
-        return {};
+    // Those of the user are only read: a file that is damaged stays where the user finds it.
+    const bool isNamed = parser.isSet(kAnnotations);
+    const QString file = isNamed ? parser.value(kAnnotations) : TSAnnotationsHelper::standardPath();
+    static TSAnnotationsHelper annotations(file);
+    Directories::installed().annotations = &annotations;
+    if (isNamed)
+        return annotations.load();
+    if (QFileInfo::exists(file)) {
+        if (const QString error = annotations.load(); !error.isEmpty())
+            complain(error);
     }
-    static TSAnnotationsHelper named(file);
-    Directories::installed().annotations = &named;
-    return named.load();
+    return {};
 }
 
 } // namespace
@@ -41,9 +50,9 @@ QString installAnnotations(const QString& file)
 void addDirectoryOptions(QCommandLineParser& parser)
 {
     parser.addOptions({
-        {QStringLiteral("vendors"), QStringLiteral("Take the makers' names from this database."),
+        {kVendors, QStringLiteral("Take the makers' names from this database."),
          QStringLiteral("FILE")},
-        {QStringLiteral("annotations"),
+        {kAnnotations,
          QStringLiteral("Take the notes on networks from this file (annotations.plist)."),
          QStringLiteral("FILE")},
     });
@@ -51,9 +60,8 @@ void addDirectoryOptions(QCommandLineParser& parser)
 
 QString installDirectories(const QCommandLineParser& parser)
 {
-    const QString error = installVendors(parser.value(QStringLiteral("vendors")));
-    return error.isEmpty() ? installAnnotations(parser.value(QStringLiteral("annotations")))
-                           : error;
+    const QString error = installVendors(parser);
+    return error.isEmpty() ? installAnnotations(parser) : error;
 }
 
 } // namespace tessara

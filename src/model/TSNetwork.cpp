@@ -48,7 +48,7 @@ TSNetwork::TSNetwork(NetworkSnapshot saved, double now)
     : m_lastSeen(saved.lastSeen)
     , m_lastSeenElapsedSeconds(now - saved.lastSeen)
     , m_annotations(std::move(saved.annotations))
-    , m_color(std::move(saved.color))
+    , m_color(saved.color)
     , m_loadedFromFile(true)
 {
     setNetwork(std::move(saved.network));

@@ -37,8 +37,9 @@ std::optional<BinaryPlistReader> BinaryPlistReader::open(Bytes bytes)
 bool BinaryPlistReader::readTrailer()
 {
     if (m_bytes.size() < kMagic.size() + kTrailerSize ||
-        !std::ranges::equal(m_bytes.first(kMagic.size()), kMagic,
-                            [](std::uint8_t byte, char c) { return byte == c; }))
+        !std::ranges::equal(m_bytes.first(kMagic.size()), kMagic, [](std::uint8_t byte, char c) {
+            return byte == static_cast<std::uint8_t>(c);
+        }))
         return false;
     const std::size_t end = m_bytes.size() - kTrailerSize;
     const Bytes trailer = m_bytes.subspan(end);

@@ -22,6 +22,9 @@ bool isNewline(QChar character)
     }
 }
 
+/// No table has so many; each takes a hundred times its size in memory.
+constexpr qsizetype kMostFields = 10'000;
+
 bool isSeparator(QStringView text)
 {
     return !text.isEmpty() && !text.contains(u'"') && std::ranges::none_of(text, isNewline);
@@ -98,6 +101,8 @@ std::optional<CSVParser::Row> CSVParser::parseRecord()
         return std::nullopt;
     Row row;
     for (qsizetype count = 1; field; ++count) {
+        if (count > kMostFields)
+            return std::nullopt;
         if (m_fieldNames.size() < count)
             m_fieldNames.append(QStringLiteral("FIELD_%1").arg(count));
         row.insert(m_fieldNames.at(count - 1), *field);

@@ -15,7 +15,7 @@ namespace tessara {
 ///
 /// A field in quotation marks may hold separators, line breaks and doubled quotation marks. Any run
 /// of line breaks is one. There are no errors: where the grammar no longer fits, the parse stops
-/// and the rest of the text is left out.
+/// and the rest of the text is left out; so it does at a row of more than 10,000 fields.
 class CSVParser {
 public:
     /// The fields of a row by their names.

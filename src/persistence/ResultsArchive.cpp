@@ -30,6 +30,9 @@ constexpr char kStationCount[] = "stationCount";
 constexpr char kChUtilization[] = "chUtilization";
 constexpr char kTimestamp[] = "timestamp";
 
+/// So many samples are read before it is asked whether to go on.
+constexpr std::uint64_t kSamplesOfAStep = 4096;
+
 /// The form of a sample: from 1 on it has its channel, stations and utilisation.
 constexpr std::int64_t kCurrentRevision = 1;
 
@@ -203,14 +206,20 @@ private:
     {
         NetworkList networks;
         for (std::uint64_t i = 0; i < archived.count() && !m_archive.isRefused(); ++i) {
-            if (!m_progress(static_cast<double>(i) / static_cast<double>(archived.count()))) {
-                m_isStopped = true;
+            m_done = static_cast<double>(i) / static_cast<double>(archived.count());
+            if (!goesOn())
                 break;
-            }
             if (NetworkPtr record = network(archived[i]))
                 networks.push_back(std::move(record));
         }
         return networks;
+    }
+
+    /// Tells how far it has come, and asks whether to go on.
+    bool goesOn()
+    {
+        m_isStopped = m_isStopped || !m_progress(m_done);
+        return !m_isStopped;
     }
 
     /// None for a record that is to be left out, and on errors.
@@ -231,7 +240,7 @@ private:
         saved.lastSeen = archived[m_lastSeen].date().value_or(0);
         saved.deviceName = archived[m_deviceName].string().value_or(QString());
         saved.annotations = archived[m_annotations].string();
-        if (m_archive.isRefused())
+        if (m_archive.isRefused() || m_isStopped)
             return nullptr;
         auto record = std::make_shared<TSNetwork>(std::move(saved), m_now);
         return record->bssid().isEmpty() || record->channel() == 0 ? nullptr : record;
@@ -279,8 +288,11 @@ private:
     {
         std::vector<TSDataPoint> samples;
         samples.reserve(archived.count());
-        for (std::uint64_t i = 0; i < archived.count() && !m_archive.isRefused(); ++i)
+        for (std::uint64_t i = 0; i < archived.count() && !m_archive.isRefused(); ++i) {
+            if (i % kSamplesOfAStep == 0 && !goesOn())
+                break;
             samples.push_back(dataPoint(archived[i]));
+        }
         return samples;
     }
 
@@ -305,6 +317,7 @@ private:
     KeyedArchiveReader m_archive;
     const double m_now;
     const WorkProgress& m_progress;
+    double m_done = 0; ///< of the networks, from 0 to 1
     bool m_isStopped = false;
     std::size_t m_nextColor = 0;
 

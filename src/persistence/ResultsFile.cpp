@@ -1,14 +1,12 @@
 #include "persistence/ResultsFile.h"
 
 #include "foundation/Localized.h"
+#include "persistence/WholeFile.h"
 
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
 
-#include <unistd.h>
-
-#include <cerrno>
 #include <new>
 
 namespace tessara {
@@ -56,12 +54,8 @@ bool writeResultsFile(const QString& path, const ResultsSnapshot& results,
             error = file.errorString();
         return false;
     }
-    // Some file systems tell only now that there was no room; a commit alone would not say so.
-    // (EINVAL: they do not know how to.)
-    if (::fsync(file.handle()) != 0 && errno != EINVAL) {
-        error = qt_error_string(errno);
+    if (error = syncToDisk(file); !error.isEmpty())
         return false;
-    }
     if (file.commit())
         return true;
     error = file.errorString();
@@ -81,14 +75,16 @@ std::optional<SavedResults> readResultsFile(const QString& path, double now,
         error.system = file.errorString();
         return std::nullopt;
     }
-    const qint64 size = file.size();
-    const uchar* bytes = size > 0 ? file.map(0, size) : nullptr;
-    if (size > 0 && !bytes) {
-        error.system = file.errorString();
-        return std::nullopt;
-    }
-    return withinMemory(error.system, [&] {
-        return decodeResults({bytes, static_cast<std::size_t>(size)}, now, progress, error.format);
+    return withinMemory(error.system, [&]() -> std::optional<SavedResults> {
+        // Not mapped: a file that another program cuts short meanwhile would end the process.
+        const QByteArray bytes = file.read(file.size());
+        if (file.error() != QFileDevice::NoError) {
+            error.system = file.errorString();
+            return std::nullopt;
+        }
+        return decodeResults({reinterpret_cast<const std::uint8_t*>(bytes.constData()),
+                              static_cast<std::size_t>(bytes.size())},
+                             now, progress, error.format);
     });
 }
 

@@ -33,11 +33,15 @@ void setAside(const QString& path)
 
 } // namespace
 
+QString TSAnnotationsHelper::standardPath()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) +
+           QLatin1String("/annotations.plist");
+}
+
 TSAnnotationsHelper& TSAnnotationsHelper::sharedAnnotations()
 {
-    static TSAnnotationsHelper helper(
-        QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) +
-        QLatin1String("/annotations.plist"));
+    static TSAnnotationsHelper helper(standardPath());
     static std::once_flag wasRead;
     std::call_once(wasRead, [] { helper.readFromDisk(); });
     return helper;

@@ -16,7 +16,9 @@ class TSAnnotationsHelper final : public AnnotationsDirectory {
 public:
     using Annotations = QHash<QString, QString>; ///< notes by BSSID
 
-    /// The notes of the user who runs the program, read from disk when first asked for.
+    /// Where the notes of the user who runs the program are.
+    static QString standardPath();
+    /// These notes, read from disk when first asked for.
     static TSAnnotationsHelper& sharedAnnotations();
 
     /// An empty store.

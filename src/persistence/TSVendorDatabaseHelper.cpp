@@ -155,11 +155,8 @@ bool TSVendorDatabaseHelper::expandDatabase()
 
 bool TSVendorDatabaseHelper::expandDatabaseUsingFile(const QString& archivePath, bool overwrite)
 {
-    const bool isInstalled = installVendorDatabase(archivePath, m_paths.database,
-                                                   overwrite || isFirstRunOfThisVersion());
-    if (!m_paths.index.isEmpty())
-        QFile::remove(m_paths.index); // a new list may be of the old one's date and size
-    return isInstalled;
+    return installVendorDatabase(archivePath, m_paths.database,
+                                 overwrite || isFirstRunOfThisVersion(), m_paths.index);
 }
 
 } // namespace tessara

@@ -62,7 +62,8 @@ std::optional<VendorTable> readVendorDatabase(const QString& path, const QString
     return table;
 }
 
-bool installVendorDatabase(const QString& archivePath, const QString& path, bool replace)
+bool installVendorDatabase(const QString& archivePath, const QString& path, bool replace,
+                           const QString& indexPath)
 {
     if (!QDir().mkpath(QFileInfo(path).path()))
         return false;
@@ -70,8 +71,11 @@ bool installVendorDatabase(const QString& archivePath, const QString& path, bool
     if (replace)
         move(path, backup);
     QString error;
-    if (!QFile::exists(path))
+    if (!QFile::exists(path)) {
+        if (!indexPath.isEmpty())
+            QFile::remove(indexPath); // the new list may be of the old one's date and size
         expand(archivePath, path, error);
+    }
     if (QFile::exists(path)) {
         QFile::remove(backup);
         return true;

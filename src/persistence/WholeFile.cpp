@@ -5,6 +5,10 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
+#include <cerrno>
+
+#include <unistd.h>
+
 namespace tessara {
 
 namespace {
@@ -43,6 +47,12 @@ std::optional<QByteArray> readWholeFile(const QString& path, qint64 longest, QSt
     return bytes;
 }
 
+QString syncToDisk(QFileDevice& file)
+{
+    // EINVAL: the file system does not know how to.
+    return ::fsync(file.handle()) != 0 && errno != EINVAL ? qt_error_string(errno) : QString();
+}
+
 QString writeWholeFile(const QString& path, const QByteArray& bytes, const QDateTime& modified)
 {
     QSaveFile file(path);
@@ -50,6 +60,8 @@ QString writeWholeFile(const QString& path, const QByteArray& bytes, const QDate
     if (file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && writeAll(file, bytes)) {
         if (modified.isValid())
             file.setFileTime(modified, QFileDevice::FileModificationTime);
+        if (const QString error = syncToDisk(file); !error.isEmpty())
+            return localized("%1: could not be written: %2").arg(path, error);
         if (file.commit())
             return {};
     }

@@ -252,9 +252,10 @@ void AppDelegate::terminate()
 void AppDelegate::applicationWillTerminate()
 {
     m_window.networksView().endEditing();
-    m_annotations.saveToDisk();
     Defaults& defaults = Defaults::standard();
     defaults.disconnect(this);
+    if (m_annotations.saveToDisk())
+        defaults.remove(DefaultKey::Annotations); // the older place, if they were still there
     saveDefaults();
     defaults.setValue(DefaultKey::RanOnce, true);
     defaults.remove(DefaultKey::SignalStrengthThreshold);
@@ -372,7 +373,8 @@ void AppDelegate::prepareAndReload()
 
 void AppDelegate::configureAll()
 {
-    configureNetworksView();
+    if (!m_window.networksView().isEditing()) // else when the note is written
+        configureNetworksView();
     configureSelectedTabView();
     m_window.setLeftFooter(m_pipeline.footerText());
     showWindowTitle();
@@ -407,6 +409,12 @@ void AppDelegate::configureNetworksView()
 void AppDelegate::configureSelectedTabView()
 {
     m_window.graphTabs().configureSelectedTabView(m_pipeline.filteredNetworks());
+}
+
+void AppDelegate::clearSideViewSelection()
+{
+    m_window.sideView().clearSelection();
+    m_sideViewSelection = {};
 }
 
 void AppDelegate::setReferenceTime(double time)

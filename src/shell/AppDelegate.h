@@ -50,6 +50,7 @@ private:
     void prepareAndReload() override;
     void configureAll() override;
     void setReferenceTime(double time) override;
+    void clearSideViewSelection() override;
     void selectAssociatedNetworks() override;
     void updateStateInfo() override;
     void updateWindowTitle() override;

@@ -1,5 +1,7 @@
 #include "shell/ElidedLabel.h"
 
+#include "shell/ToolTipText.h"
+
 #include <QPainter>
 
 namespace tessara {
@@ -54,7 +56,7 @@ bool ElidedLabel::isCut() const
 void ElidedLabel::updateToolTip()
 {
     const QString& toolTip = m_ownToolTip.isEmpty() && isCut() ? m_text : m_ownToolTip;
-    setToolTip(toolTip.toHtmlEscaped());
+    setToolTip(toolTipOf(toolTip));
 }
 
 } // namespace tessara

@@ -12,8 +12,7 @@ QFileDialog& makePanel(QWidget& window, const QString& title, PathReceiver recei
 {
     auto* panel = new QFileDialog(&window, title);
     panel->setAttribute(Qt::WA_DeleteOnClose);
-    panel->setNameFilters(
-        {localized("Comma-separated values (*.csv *.CSV)"), localized("All files (*)")});
+    panel->setNameFilter(localized("Comma-separated values (*.csv *.CSV)"));
     QObject::connect(panel, &QFileDialog::fileSelected, &window, std::move(receiver));
     return *panel;
 }
@@ -24,6 +23,7 @@ void showExportPanel(QWidget& window, const QString& suggestedName, PathReceiver
 {
     QFileDialog& panel = makePanel(window, localized("Export"), std::move(receiver));
     panel.setAcceptMode(QFileDialog::AcceptSave);
+    panel.setNameFilters(panel.nameFilters() << localized("All files (*)"));
     panel.setDefaultSuffix(QStringLiteral("csv"));
     panel.setLabelText(QFileDialog::FileName, localized("Export As") + u':');
     panel.setLabelText(QFileDialog::Accept, localized("Export"));

@@ -396,7 +396,8 @@ void MainWindow::dragEnterEvent(QDragEnterEvent* event)
 
 void MainWindow::dragMoveEvent(QDragMoveEvent* event)
 {
-    if (!resultsFileOf(*event->mimeData()))
+    // A chart on its way out is not asked for its file: that would write one.
+    if (event->source() || !resultsFileOf(*event->mimeData()))
         return;
     event->setDropAction(Qt::CopyAction);
     event->accept();
@@ -404,7 +405,7 @@ void MainWindow::dragMoveEvent(QDragMoveEvent* event)
 
 void MainWindow::dropEvent(QDropEvent* event)
 {
-    const auto file = resultsFileOf(*event->mimeData());
+    const auto file = event->source() ? std::nullopt : resultsFileOf(*event->mimeData());
     if (!file)
         return;
     event->setDropAction(Qt::CopyAction);

@@ -1,5 +1,7 @@
 #include "shell/NetworkCellDelegate.h"
 
+#include "shell/ToolTipText.h"
+
 #include "model/ColumnRegistry.h"
 #include "model/SignalPercentage.h"
 #include "model/TSNetwork.h"
@@ -226,7 +228,7 @@ bool NetworkCellDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view,
     initStyleOption(&styled, index);
     const int room = option.rect.width() - 2 * (kCellPadding + textMargin(styled));
     const bool isCut = styled.fontMetrics.horizontalAdvance(styled.text) > room;
-    QToolTip::showText(event->globalPos(), isCut ? styled.text.toHtmlEscaped() : QString(), view,
+    QToolTip::showText(event->globalPos(), isCut ? toolTipOf(styled.text) : QString(), view,
                        option.rect);
     return true;
 }

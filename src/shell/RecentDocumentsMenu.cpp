@@ -1,5 +1,7 @@
 #include "shell/RecentDocumentsMenu.h"
 
+#include "shell/ToolTipText.h"
+
 #include "foundation/Defaults.h"
 #include "foundation/Localized.h"
 
@@ -35,7 +37,7 @@ void RecentDocumentsMenu::fill()
     for (const QString& path : paths) {
         QString name = QFileInfo(path).fileName();
         QAction* action = addAction(name.replace(u'&', QLatin1String("&&")));
-        action->setToolTip(path);
+        action->setToolTip(toolTipOf(path));
         connect(action, &QAction::triggered, this,
                 [this, path] { Q_EMIT documentTriggered(path); });
     }

@@ -39,6 +39,8 @@ void addButtons(QMessageBox& box, const QStringList& titles)
         button->setProperty(kPlace, place);
         if (place == 0)
             box.setDefaultButton(button);
+        if (role == QMessageBox::RejectRole || titles.size() == 1)
+            box.setEscapeButton(button); // also what closing the alert stands for
     }
 }
 
@@ -67,7 +69,10 @@ UserPrompt::AlertId SheetPrompt::open(QMessageBox* box, Answer answer)
     m_sheets.emplace(id, box);
     connect(box, &QMessageBox::finished, this, [this, id, box, answer = std::move(answer)] {
         m_sheets.erase(id);
-        answer(TSAlert::kFirstButton + box->clickedButton()->property(kPlace).toInt());
+        // Closed by its title bar, an alert has no clicked button yet.
+        const QAbstractButton* clicked = box->clickedButton();
+        const QAbstractButton* button = clicked ? clicked : box->escapeButton();
+        answer(TSAlert::kFirstButton + (button ? button->property(kPlace).toInt() : 0));
     });
     box->open();
     return id;

@@ -1,5 +1,7 @@
 #include "shell/SideViewModel.h"
 
+#include "shell/ToolTipText.h"
+
 #include "shell/RowChanges.h"
 
 #include <QFont>
@@ -194,7 +196,7 @@ QVariant SideViewModel::data(const QModelIndex& index, int role) const
                    ? QVariant(QString::number(item.children.size()))
                    : QVariant();
     case Qt::ToolTipRole:
-        return isDetail ? QVariant() : QVariant(item.title.toHtmlEscaped());
+        return isDetail ? QVariant() : QVariant(toolTipOf(item.title));
     case Qt::TextAlignmentRole:
         return QVariant::fromValue(Qt::AlignVCenter | (isDetail ? Qt::AlignRight : Qt::AlignLeft));
     case Qt::FontRole: {
@@ -212,8 +214,9 @@ Qt::ItemFlags SideViewModel::flags(const QModelIndex& index) const
     if (!index.isValid())
         return Qt::NoItemFlags;
     if (itemAt(index).identifier == QLatin1String("group"))
-        return Qt::ItemIsEnabled;
-    return Qt::ItemIsEnabled | Qt::ItemIsSelectable;
+        return Qt::NoItemFlags; // the keys pass it by, too
+    const Qt::ItemFlags flags = Qt::ItemIsEnabled | Qt::ItemIsSelectable;
+    return index.internalId() == kTop ? flags : flags | Qt::ItemNeverHasChildren;
 }
 
 } // namespace tessara

@@ -119,9 +119,11 @@ void TSSideView::rowsAboutToBeRemoved(const QModelIndex& parent, int first, int 
 
 void TSSideView::mousePressEvent(QMouseEvent* event)
 {
+    if (event->button() != Qt::LeftButton)
+        return; // another button opens the menu and selects nothing
     const QModelIndex index = indexAt(event->position().toPoint());
     const bool isBeside = !index.isValid() || !m_model.flags(index).testFlag(Qt::ItemIsSelectable);
-    if (isBeside && event->button() == Qt::LeftButton)
+    if (isBeside)
         Q_EMIT didClickBeside();
     else
         QTreeView::mousePressEvent(event);

@@ -20,7 +20,6 @@ int main(int argc, char** argv)
     QApplication application(argc, argv);
     QApplication::setOrganizationName(QStringLiteral("Tessara"));
     QApplication::setApplicationName(QStringLiteral("tessara"));
-    QApplication::setApplicationDisplayName(QStringView(kApplicationTitle).toString());
     QApplication::setApplicationVersion(QStringLiteral(TESSARA_VERSION));
     QApplication::setDesktopFileName(QStringLiteral("tessara"));
     // The main window alone decides when the process ends.

@@ -197,6 +197,7 @@ TEST_F(TSVendorDatabaseHelperTest, ReadsTheIndexInPlaceOfTheListThatItWasMadeFro
 {
     TSVendorDatabaseHelper::Paths indexed = paths;
     indexed.index = folder.filePath(QStringLiteral("cache/vendors.index"));
+    Defaults::standard().setValue(DefaultKey::LastLaunchedVersion, QStringLiteral(TESSARA_VERSION));
     const auto vendorAtNextStart = [&] {
         return TSVendorDatabaseHelper(indexed).stringForVendor(kBSSID).value_or(QString());
     };
@@ -206,6 +207,9 @@ TEST_F(TSVendorDatabaseHelperTest, ReadsTheIndexInPlaceOfTheListThatItWasMadeFro
 
     // The same date and size: only the index can say "Old" now.
     writeFile(paths.database, kNew, kDate);
+    EXPECT_EQ(vendorAtNextStart(), QStringLiteral("Old"));
+
+    TSVendorDatabaseHelper(indexed).expandDatabaseUsingFile(paths.seed, false); // as each start
     EXPECT_EQ(vendorAtNextStart(), QStringLiteral("Old"));
 
     // An index that is damaged anywhere is made anew from the list.

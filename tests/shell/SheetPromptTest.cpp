@@ -70,6 +70,18 @@ TEST_F(SheetPromptTest, AnswersReturnWithTheFirstButtonAndEscapeWithCancel)
     EXPECT_THAT(answers, ElementsAre(TSAlert::kFirstButton, TSAlert::kSecondButton));
 }
 
+TEST_F(SheetPromptTest, TakesAClosedAlertForCancelOrItsOnlyButton)
+{
+    for (const QStringList& buttons : {QStringList{QStringLiteral("OK")},
+                                       QStringList{QStringLiteral("Save"), QStringLiteral("Cancel"),
+                                                   QStringLiteral("Discard")}}) {
+        begin(buttons);
+        sheet()->close();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+    EXPECT_THAT(answers, ElementsAre(TSAlert::kFirstButton, TSAlert::kSecondButton));
+}
+
 TEST_F(SheetPromptTest, TakesASheetAwayWithoutAnAnswer)
 {
     const UserPrompt::AlertId alert = begin({QStringLiteral("OK")});
