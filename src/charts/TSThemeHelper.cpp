@@ -34,8 +34,6 @@ QColor textColor()
     return QGuiApplication::palette().color(QPalette::WindowText);
 }
 
-const QColor kDarkGray = gray(1.0 / 3);
-const QColor kLightGray = gray(2.0 / 3);
 const QColor kFiveGHzBlue = rgb(0.129, 0.565, 0.827);
 const QColor kName = rgb(0.096, 0.136, 0.335);
 const QColor kNameInDark = rgb(0.318, 0.588, 0.72);
@@ -76,7 +74,7 @@ QColor TSThemeHelper::textColorForNetworkCollectionNotFound()
 
 QColor TSThemeHelper::textColorForMultipleValuesPlaceholder()
 {
-    return themed(withAlpha(kDarkGray, 0.5), withAlpha(kLightGray, 0.3));
+    return themed(withAlpha(darkGray(), 0.5), withAlpha(lightGray(), 0.3));
 }
 
 QColor TSThemeHelper::textColorForCategory()
@@ -121,7 +119,7 @@ QColor TSThemeHelper::textColorForInfoElementFieldValueNotes()
 
 QColor TSThemeHelper::textColorForInfoElementSummary()
 {
-    return themed(kDarkGray, kLightGray);
+    return themed(darkGray(), lightGray());
 }
 
 QColor TSThemeHelper::textColorForInfoElementSubfieldName()
@@ -172,6 +170,16 @@ QColor TSThemeHelper::colorFor2Dot4GHzBand()
 QColor TSThemeHelper::colorFor5GHzBand()
 {
     return kFiveGHzBlue;
+}
+
+QColor darkGray()
+{
+    return gray(1.0 / 3);
+}
+
+QColor lightGray()
+{
+    return gray(2.0 / 3);
 }
 
 QColor withAlpha(QColor color, double alpha)

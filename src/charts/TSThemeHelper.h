@@ -38,6 +38,10 @@ public:
     static QColor colorFor5GHzBand();
 };
 
+/// Named colours that are not the theme's.
+QColor darkGray();  ///< a third of white
+QColor lightGray(); ///< two thirds
+
 /// A colour at another opacity, from 0 to 1.
 QColor withAlpha(QColor color, double alpha);
 

@@ -1,10 +1,11 @@
 #include "shell/NetworkCellDelegate.h"
 
-#include "shell/ToolTipText.h"
-
+#include "charts/TSLevelIndicatorCell.h"
+#include "charts/TSThemeHelper.h"
 #include "model/ColumnRegistry.h"
 #include "model/SignalPercentage.h"
 #include "model/TSNetwork.h"
+#include "shell/ToolTipText.h"
 #include "shell/NetworksTableModel.h"
 
 #include <QAbstractItemView>
@@ -20,17 +21,16 @@ namespace tessara {
 
 namespace {
 
-constexpr int kRowPadding = 5;      // above and below the text together
-constexpr int kCellPadding = 3;     // at the left and the right, beside the style's own
-constexpr int kLevelCellWidth = 60; // of the bar beside the text
+constexpr int kRowPadding = 5;  // above and below the text together
+constexpr int kCellPadding = 3; // at the left and the right, beside the style's own
 
 /// What a level column shows of a network, in per cent, and how.
 struct LevelColumn {
     QStringView identifier;
     std::int64_t (*level)(const TSNetwork&);
     std::int64_t (*levelMax)(const TSNetwork&);
-    QRgb color;
-    float opacity;
+    QColor (*color)();
+    double alpha;
     // Where the track begins at the least, in points of the smallest font, and the longest text
     // that it is to leave room for.
     double indent;
@@ -40,20 +40,20 @@ struct LevelColumn {
 
 const LevelColumn kLevelColumns[] = {
     {u"RSSI", [](const TSNetwork& n) { return signalPercentage(n.rssiLast()); },
-     [](const TSNetwork& n) { return signalPercentage(n.rssiStatistic().max); }, 0xff4c9f70, 0.7F,
-     32, 26, "100%"},
+     [](const TSNetwork& n) { return signalPercentage(n.rssiStatistic().max); },
+     TSThemeHelper::barColorForRSSI, 0.7, 32, 26, "100%"},
     {u"NOISE", [](const TSNetwork& n) { return signalPercentage(n.noiseLast()); },
-     [](const TSNetwork& n) { return signalPercentage(n.noiseStatistic().max); }, 0xffc0605a, 0.5F,
-     32, 26, "100%"},
+     [](const TSNetwork& n) { return signalPercentage(n.noiseStatistic().max); },
+     TSThemeHelper::barColorForNoise, 0.5, 32, 26, "100%"},
     {u"SNR", [](const TSNetwork& n) { return n.snrPerc(); },
-     [](const TSNetwork& n) { return n.snrPercStatistic().max; }, 0xff4a84c4, 0.5F, 40, 40,
-     "-60 dB"},
+     [](const TSNetwork& n) { return n.snrPercStatistic().max; }, TSThemeHelper::barColorForSNR,
+     0.5, 40, 40, "-60 dB"},
     {u"CHANNEL_UTILIZATION",
      [](const TSNetwork& n) { return std::max<std::int64_t>(n.channelUtilization(), -1); },
      [](const TSNetwork& n) {
          return std::max<std::int64_t>(n.attributes().channelUtilizationMax, -1);
      },
-     0xffc99a3c, 0.6F, 28, 28, "100%"},
+     TSThemeHelper::barColorForChUtilization, 0.6, 28, 28, "100%"},
 };
 
 /// Where the track of a column's bar begins, in pixels: the same in all rows, bold or not.
@@ -87,30 +87,18 @@ QColor grayed(const QPalette& palette)
             (text.blue() + base.blue()) / 2};
 }
 
-QColor translucent(QColor color, float opacity)
-{
-    color.setAlphaF(opacity);
-    return color;
-}
-
 /// On light and dark palettes.
 QColor filteredCellColor(const QPalette& palette)
 {
     const bool isDark = palette.color(QPalette::Base).lightnessF() < 0.5F;
-    return isDark ? translucent(Qt::blue, 0.2F) : translucent(QColor(255, 128, 0), 0.15F);
+    return isDark ? withAlpha(Qt::blue, 0.2) : TSThemeHelper::backgroundColorForFilteredCell();
 }
 
-QColor barColor(const LevelColumn& column, const QStyleOptionViewItem& option, bool isGrayedOut)
+RowHighlight highlightOf(const QStyleOptionViewItem& option)
 {
-    const bool isSelected = option.state.testFlag(QStyle::State_Selected);
-    if (isGrayedOut) {
-        if (!isSelected)
-            return translucent(Qt::lightGray, 0.5F);
-        return translucent(hasFocus(option) ? Qt::white : Qt::darkGray, 0.3F);
-    }
-    if (!isSelected)
-        return translucent(QColor(column.color), column.opacity);
-    return hasFocus(option) ? translucent(Qt::cyan, 0.7F) : translucent(Qt::darkGray, 0.5F);
+    if (!option.state.testFlag(QStyle::State_Selected))
+        return RowHighlight::kNone;
+    return hasFocus(option) ? RowHighlight::kActive : RowHighlight::kInactive;
 }
 
 int textMargin(const QStyleOptionViewItem& option)
@@ -194,11 +182,14 @@ void NetworkCellDelegate::paintLevel(QPainter& painter, const QStyleOptionViewIt
         std::ranges::find(kLevelColumns, column.identifier, &LevelColumn::identifier);
     if (level == std::end(kLevelColumns))
         return;
-    paintLevelBar(painter, cell.rect,
-                  {.level = level->level(network),
-                   .levelMax = level->levelMax(network),
-                   .color = barColor(*level, cell, m_model.isMissing(network)),
-                   .indent = kCellPadding + indentOf(*level, m_model.context().dBm, cell.font)});
+    const TSLevelIndicatorCell bar{.barLevel = level->level(network),
+                                   .barLevelMax = level->levelMax(network),
+                                   .barColor = level->color(),
+                                   .barAlpha = level->alpha,
+                                   .barIndent = kCellPadding +
+                                                indentOf(*level, m_model.context().dBm, cell.font),
+                                   .isGrayedOut = m_model.isMissing(network)};
+    bar.drawWithFrame(painter, cell.rect, highlightOf(cell));
 }
 
 QSize NetworkCellDelegate::sizeHint(const QStyleOptionViewItem& option,
@@ -206,9 +197,11 @@ QSize NetworkCellDelegate::sizeHint(const QStyleOptionViewItem& option,
 {
     QStyleOptionViewItem styled = option;
     initStyleOption(&styled, index);
-    const int bar = columnOf(index).cell == CellKind::kLevel ? kLevelCellWidth : 0;
-    return {styled.fontMetrics.horizontalAdvance(styled.text) + 2 * kCellPadding + bar,
-            rowHeight(QFontMetrics(option.font))};
+    const QSize text(styled.fontMetrics.horizontalAdvance(styled.text) + 2 * kCellPadding,
+                     rowHeight(QFontMetrics(option.font)));
+    if (columnOf(index).cell != CellKind::kLevel)
+        return text;
+    return TSLevelIndicatorCell::cellSizeForBounds(text, option.rect.size()).toSize();
 }
 
 void NetworkCellDelegate::updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "filtering/FilterIdentifiers.h"
-#include "shell/LevelBar.h"
 
 #include <QStyledItemDelegate>
 
