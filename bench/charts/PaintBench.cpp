@@ -1,6 +1,6 @@
 #include "charts/HoverSearch.h"
 #include "charts/OffscreenApplication.h"
-#include "charts/TSSignalStrengthView.h"
+#include "charts/TSNetworkDetailsView.h"
 
 #include <QImage>
 #include <QPainter>
@@ -21,11 +21,11 @@ constexpr QSize kSize(1100, 735);
 
 /// Networks whose signals wander, with a sample every two seconds.
 /// @param seconds how long they have been seen
-NetworkList wanderingNetworks(int seconds)
+NetworkList wanderingNetworks(int seconds, int count = kNetworks)
 {
     std::mt19937 random(1);
     NetworkList networks;
-    for (int number = 0; number < kNetworks; ++number) {
+    for (int number = 0; number < count; ++number) {
         ScanDictionary dictionary;
         dictionary.bssid = QStringLiteral("02:00:00:00:00:%1").arg(number, 2, 16, QLatin1Char('0'));
         dictionary.ssid = QStringLiteral("Net %1").arg(number);
@@ -72,6 +72,27 @@ void signalChart(benchmark::State& state)
         chart->paint(painter);
     }
     state.counters["points"] = kNetworks * kHour / 2;
+}
+
+/// A repaint of the details of one network, with its noise: the longest history, eight hours of
+/// which are visible.
+void detailsChart(benchmark::State& state)
+{
+    const SystemClock clock;
+    const NetworkPtr network = wanderingNetworks(18 * kHour, 1).front();
+    TSNetworkDetailsView chart(clock);
+    chart.resize(kSize);
+    chart.setTimescale(chart.maxTimescale());
+    chart.setUnits(Units::kDBm);
+    chart.setReferenceTime(kReferenceTime);
+    chart.setNetwork(network);
+    chart.setMetric(DetailsMetric::kSignalAndNoise);
+    QImage image = blankImage();
+    for (auto _ : state) {
+        QPainter painter(&image);
+        chart.paint(painter);
+    }
+    state.counters["points"] = static_cast<double>(chart.maxTimescale()); // two each two seconds
 }
 
 /// What a painter takes for polylines of as many points, and nothing else.
@@ -129,6 +150,7 @@ BENCHMARK(signalChart)
     ->Arg(kHour)
     ->Arg(18 * kHour)
     ->Unit(benchmark::kMillisecond);
+BENCHMARK(detailsChart)->Unit(benchmark::kMillisecond);
 BENCHMARK(hover)->ArgName("history")->Arg(kHour)->Arg(18 * kHour)->Unit(benchmark::kMicrosecond);
 
 } // namespace

@@ -74,6 +74,11 @@ void drawChartFrame(QPainter& painter, const ChartScale& scale, const ChartFrame
     painter.restore();
 }
 
+void clipToChart(QPainter& painter, const QRectF& chart)
+{
+    painter.setClipRect(chart.adjusted(0, -1, 0, 1), Qt::IntersectClip);
+}
+
 void drawXAxisMarks(QPainter& painter, const ChartScale& scale, const QPointF& origin,
                     double fontSize, bool isNow)
 {

@@ -27,6 +27,9 @@ struct ChartFrame {
 void drawChartFrame(QPainter& painter, const ChartScale& scale, const ChartFrame& frame,
                     const WindowScale& window);
 
+/// Keeps what is painted next inside a chart; lines along its edges keep their width.
+void clipToChart(QPainter& painter, const QRectF& chart);
+
 /// Paints the times below a chart.
 /// @param origin the left end of the axis, and where the baselines of its texts lie
 /// @param fontSize points

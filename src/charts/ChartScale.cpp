@@ -37,22 +37,23 @@ double ChartScale::timeFor(double x) const
     return referenceTime - (rect.x() + rect.width() - x) / pointsPerSecond();
 }
 
-double ChartScale::heightFor(std::int64_t dBm) const
+double ChartScale::heightFor(std::int64_t value, Metric metric) const
 {
+    if (metric == Metric::kSNR)
+        return plotHeight() * static_cast<double>(value) / kRangeOfRatio;
     if (units == Units::kPercent)
-        return plotHeight() * static_cast<double>(signalPercentage(dBm)) / kRangeInPercent;
-    return plotHeight() * static_cast<double>(100 - attenuation(dBm)) / kRangeInDBm;
+        return plotHeight() * static_cast<double>(signalPercentage(value)) / kRangeInPercent;
+    return plotHeight() * static_cast<double>(100 - attenuation(value)) / kRangeInDBm;
 }
 
 double ChartScale::yFor(const TSDataPoint& sample, Metric metric) const
 {
     if (!sample.hasData())
         return rect.y();
-    const double height =
-        metric == Metric::kSNR
-            ? static_cast<double>(sample.snr()) * plotHeight() / kRangeOfRatio
-            : heightFor(metric == Metric::kNoise ? sample.noiseValue() : sample.rssiValue());
-    return rect.y() + std::max(height, 0.0);
+    const std::int64_t value = metric == Metric::kSNR     ? sample.snr()
+                               : metric == Metric::kNoise ? sample.noiseValue()
+                                                          : sample.rssiValue();
+    return rect.y() + std::max(heightFor(value, metric), 0.0);
 }
 
 } // namespace tessara

@@ -42,10 +42,10 @@ struct ChartScale {
     double xFor(double timestamp) const;
     /// The time at an x.
     double timeFor(double x) const;
-    /// How far above the floor a signal or a noise lies, in points; may be negative or beyond the
-    /// top of the scale.
-    /// @param dBm in dBm, whatever the units of the chart
-    double heightFor(std::int64_t dBm) const;
+    /// How far above the floor a value lies, in points; may be negative or beyond the top of the
+    /// scale.
+    /// @param value in dBm, whatever the units of the chart; a ratio in dB
+    double heightFor(std::int64_t value, Metric metric = Metric::kSignal) const;
     /// Never below the floor, where samples without data lie.
     double yFor(const TSDataPoint& sample, Metric metric) const;
     QPointF makePointInRect(const TSDataPoint& sample, Metric metric) const

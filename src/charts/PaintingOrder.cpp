@@ -27,6 +27,15 @@ PaintingOrder paintingOrder(const NetworkList& networks)
     return order;
 }
 
+NetworkPtr selectedNetwork(const NetworkList& networks)
+{
+    const auto isSelected = [](const NetworkPtr& network) { return network->isUserHighlighted(); };
+    const auto found = std::ranges::find_if(networks, isSelected);
+    if (found == networks.end() || std::any_of(found + 1, networks.end(), isSelected))
+        return nullptr;
+    return *found;
+}
+
 bool isHighlighted(const TSNetwork& network)
 {
     return network.isUserHighlighted() || isCollectionHighlighted(network);

@@ -14,6 +14,9 @@ struct PaintingOrder {
 
 PaintingOrder paintingOrder(const NetworkList& networks);
 
+/// The one network that is selected itself; none if several are.
+NetworkPtr selectedNetwork(const NetworkList& networks);
+
 /// Whether a network is selected, itself or as part of a collection.
 bool isHighlighted(const TSNetwork& network);
 /// Whether it is part of a collection that is selected.

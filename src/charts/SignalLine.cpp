@@ -96,4 +96,12 @@ SampleLine sampleLine(const std::deque<TSDataPoint>& history, const ChartScale& 
     return line.finish();
 }
 
+QPen linePen(const TSNetwork& network, const QColor& color, double width)
+{
+    QPen pen(color, width, Qt::SolidLine, Qt::RoundCap, Qt::BevelJoin);
+    if (network.isAdHoc())
+        pen.setDashPattern({5 / width, 3 / width});
+    return pen;
+}
+
 } // namespace tessara

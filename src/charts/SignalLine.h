@@ -1,8 +1,10 @@
 #pragma once
 
 #include "charts/ChartScale.h"
+#include "model/TSNetwork.h"
 
 #include <QPainterPath>
+#include <QPen>
 
 #include <deque>
 #include <limits>
@@ -32,5 +34,9 @@ struct LineShape {
 /// @param history oldest first
 SampleLine sampleLine(const std::deque<TSDataPoint>& history, const ChartScale& scale,
                       const LineShape& shape);
+
+/// How a line of samples is stroked: dashed where the network is an ad hoc one.
+/// @param width points
+QPen linePen(const TSNetwork& network, const QColor& color, double width);
 
 } // namespace tessara

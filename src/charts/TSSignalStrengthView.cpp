@@ -8,8 +8,7 @@
 #include "charts/SignalLine.h"
 #include "charts/TSThemeHelper.h"
 #include "charts/TimeAxis.h"
-#include "foundation/Localized.h"
-#include "model/SignalPercentage.h"
+#include "charts/ValueAxis.h"
 
 #include <QApplication>
 #include <QDir>
@@ -39,14 +38,6 @@ void turnUpright(QPainter& painter, double height)
     painter.scale(1, -1);
 }
 
-QString valueText(const TSDataPoint& sample, Units units)
-{
-    if (units == Units::kPercent)
-        return QStringLiteral("%1%").arg(signalPercentage(sample.rssiValue()));
-    return sample.hasData() ? QStringLiteral("%1 dBm").arg(sample.rssiValue())
-                            : localized("No Data");
-}
-
 QString labelText(const TSNetwork& network, const RadioMerge* merge)
 {
     if (const QStringList* ssids = merge ? merge->ssids(network) : nullptr) {
@@ -72,19 +63,13 @@ QString collectionsTitle(const NetworkList& networks, const RadioMerge& merge)
     return names.join(QStringLiteral(", "));
 }
 
-QPen linePen(const TSNetwork& network, double opacity, const WindowScale& window)
+double lineWidth(const TSNetwork& network, const WindowScale& window)
 {
     constexpr double kWidth = 2;
     constexpr double kAssociatedWidth = 4; // in a fresh window
     constexpr double kLargestWidth = 3;
-    const double width = network.isAssociated()
-                             ? std::min(kLargestWidth, kAssociatedWidth * window.horizontal)
-                             : kWidth;
-    QPen pen(withAlpha(network.color(), opacity), width, Qt::SolidLine, Qt::RoundCap,
-             Qt::BevelJoin);
-    if (network.isAdHoc())
-        pen.setDashPattern({5 / width, 3 / width});
-    return pen;
+    return network.isAssociated() ? std::min(kLargestWidth, kAssociatedWidth * window.horizontal)
+                                  : kWidth;
 }
 
 } // namespace
@@ -301,8 +286,7 @@ void TSSignalStrengthView::drawDataPoints(QPainter& painter, const ChartScale& s
             labelFontSize(), hasRecentScan());
     }
     drawLabels(painter, scale, networks, merge);
-    painter.setClipRect(QRectF(rect.x(), rect.y() - 1, rect.width(), rect.height() + 2),
-                        Qt::IntersectClip);
+    clipToChart(painter, rect);
     drawLines(painter, scale, networks);
     painter.restore();
 }
@@ -357,7 +341,8 @@ void TSSignalStrengthView::drawLines(QPainter& painter, const ChartScale& scale,
             if (!isCollectionHighlighted(*network))
                 areaColor = withAlpha(network->color(), network->isUserHighlighted() ? 0.6 : 0);
         }
-        const QPen pen = linePen(*network, opacity, window);
+        const QPen pen =
+            linePen(*network, withAlpha(network->color(), opacity), lineWidth(*network, window));
         const SampleLine line =
             sampleLine(network->history(), scale,
                        {.hasArea = network->isUserHighlighted(), .maxElements = m_maxBezierPoints});
@@ -371,14 +356,19 @@ void TSSignalStrengthView::drawLines(QPainter& painter, const ChartScale& scale,
 void TSSignalStrengthView::drawHover(QPainter& painter, const QRectF& view)
 {
     const ChartScale scale = chartScale(view);
-    if (!m_moDataPoint) {
+    if (m_moDataPoint)
+        drawSampleBubble(painter, scale, Metric::kSignal, m_moDataPoint->color);
+    else
         drawTitle(painter, scale, nullptr);
-        return;
-    }
+}
+
+void TSSignalStrengthView::drawSampleBubble(QPainter& painter, const ChartScale& scale,
+                                            Metric metric, const QColor& color) const
+{
     const TSDataPoint& sample = m_moDataPoint->sample;
-    drawBubble(painter, scale.rect, valueText(sample, m_units),
+    drawBubble(painter, scale.rect, valueText(sample, metric, m_units),
                timeStringWithFormat(sample.timestamp(), exactTimeFormat()),
-               scale.makePointInRect(sample, Metric::kSignal), m_moDataPoint->color, windowScale());
+               scale.makePointInRect(sample, metric), color, windowScale());
 }
 
 void TSSignalStrengthView::drawTitle(QPainter& painter, const ChartScale& scale,

@@ -92,6 +92,10 @@ protected:
     virtual void drawDataPoints(QPainter& painter, const ChartScale& scale);
     /// Paints what follows the mouse, over all else.
     virtual void drawHover(QPainter& painter, const QRectF& view);
+    /// Paints a bubble at the sample under the mouse.
+    /// @param metric what it tells of the sample
+    void drawSampleBubble(QPainter& painter, const ChartScale& scale, Metric metric,
+                          const QColor& color) const;
     /// The mouse has moved without a button, or has left.
     /// @param mouse in points of the chart, y growing upward
     virtual void mouseMoved(const QPointF& mouse);
@@ -102,6 +106,8 @@ protected:
     QRectF viewRect() const { return {QPointF(0, 0), QSizeF(size())}; }
     WindowScale windowScale() const { return WindowScale::ofWindow(window()->size()); }
     const Clock& clock() const { return m_clock; }
+    /// The right edge is now, since the newest scan is recent.
+    bool hasRecentScan() const;
 
     void setDrawLeftYLabels(bool draw) { m_drawLeftYLabels = draw; }
     void setDrawRightYLabels(bool draw) { m_drawRightYLabels = draw; }
@@ -145,7 +151,6 @@ private:
                     const RadioMerge* merge) const;
     void drawLines(QPainter& painter, const ChartScale& scale, const NetworkList& networks) const;
     double labelFontSize() const;
-    bool hasRecentScan() const;
     void magnifyLittle(double magnification);
     void dragPicture();
 

@@ -1,5 +1,8 @@
 #include "charts/ValueAxis.h"
 
+#include "foundation/Localized.h"
+#include "model/SignalPercentage.h"
+
 #include <algorithm>
 #include <array>
 
@@ -59,6 +62,17 @@ double distanceOf(int mark, const ValueScale& scale)
 }
 
 } // namespace
+
+QString valueText(const TSDataPoint& sample, Metric metric, Units units)
+{
+    const std::int64_t dBm = metric == Metric::kNoise ? sample.noiseValue() : sample.rssiValue();
+    if (metric != Metric::kSNR && units == Units::kPercent)
+        return QStringLiteral("%1%").arg(signalPercentage(dBm));
+    if (!sample.hasData())
+        return localized("No Data");
+    return metric == Metric::kSNR ? QStringLiteral("%1 dB").arg(sample.snr())
+                                  : QStringLiteral("%1 dBm").arg(dBm);
+}
 
 int valueMarks(Metric metric, Units units)
 {

@@ -21,6 +21,9 @@ struct ValueLabel {
     bool operator==(const ValueLabel&) const = default;
 };
 
+/// What a bubble tells of a sample.
+QString valueText(const TSDataPoint& sample, Metric metric, Units units);
+
 /// Into how many steps a scale is divided.
 int valueMarks(Metric metric, Units units);
 

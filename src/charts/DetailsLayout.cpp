@@ -1,0 +1,18 @@
+#include "charts/DetailsLayout.h"
+
+namespace tessara {
+
+QRectF detailsChartRect(const QRectF& view)
+{
+    return {view.x() + 45, view.y() + 30, view.width() - 95, view.height() - 55};
+}
+
+QRectF qualityArea(const TSNetwork& network, const ChartScale& scale, Metric metric)
+{
+    const RunningStatistic& values =
+        metric == Metric::kSNR ? network.snrStatistic() : network.rssiStatistic();
+    return {scale.rect.x(), scale.rect.y(), scale.rect.width(),
+            scale.heightFor(values.max, metric)};
+}
+
+} // namespace tessara

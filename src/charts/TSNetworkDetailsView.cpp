@@ -1,0 +1,126 @@
+#include "charts/TSNetworkDetailsView.h"
+
+#include "charts/ChartFrame.h"
+#include "charts/DetailsLayout.h"
+#include "charts/SignalLine.h"
+#include "charts/TSThemeHelper.h"
+
+#include <QPainter>
+
+namespace tessara {
+
+namespace {
+
+constexpr std::int64_t kMaxTimescale = 28'800; // seconds
+constexpr double kTopMargin = 10;
+constexpr double kBelowChart = 18;
+constexpr double kLineWidth = 2;
+constexpr double kAreaOpacity = 0.2;
+constexpr double kVeilOpacity = 0.1;
+constexpr double kNoiseLineWidth = 1;
+constexpr double kNoiseLineOpacity = 0.75;
+constexpr double kNoiseOpacity = 0.4;
+
+} // namespace
+
+TSNetworkDetailsView::TSNetworkDetailsView(const Clock& clock, QWidget* parent)
+    : TSSignalStrengthView(clock, parent)
+{
+    setMaxTimescale(kMaxTimescale);
+}
+
+void TSNetworkDetailsView::setNetwork(NetworkPtr network)
+{
+    if (!network || !m_network || !network->bssidAndBandCompare(m_network->network()))
+        clearHoverPoint();
+    m_network = std::move(network);
+    setHighlightedNetworks(m_network ? NetworkList{m_network} : NetworkList());
+    setNeedsDisplay();
+}
+
+void TSNetworkDetailsView::setNetworks(const NetworkList& networks)
+{
+    TSSignalStrengthView::setNetworks(networks);
+    // Hovering searches the network that is shown, whichever are selected.
+    setHighlightedNetworks(m_network ? NetworkList{m_network} : NetworkList());
+}
+
+void TSNetworkDetailsView::setMetric(DetailsMetric metric)
+{
+    m_metric = metric;
+    setNeedsDisplay();
+}
+
+QRectF TSNetworkDetailsView::rectForChart(const QRectF& view) const
+{
+    return detailsChartRect(view);
+}
+
+double TSNetworkDetailsView::topMargin(const QRectF& /*view*/) const
+{
+    return kTopMargin;
+}
+
+void TSNetworkDetailsView::drawChart(QPainter& painter, const ChartScale& scale)
+{
+    drawChartFrame(
+        painter, scale,
+        {.metric = lineMetric(), .leftLabels = true, .rightLabels = true, .isSparse = true},
+        windowScale());
+}
+
+void TSNetworkDetailsView::drawDataPoints(QPainter& painter, const ChartScale& scale)
+{
+    if (!m_network)
+        return;
+    drawXAxisMarks(painter, scale, {scale.rect.x(), scale.rect.y() - kBelowChart},
+                   windowScale().fontSize(10, 9, 12), hasRecentScan());
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing, true);
+    clipToChart(painter, scale.rect);
+    if (willDrawNoise())
+        drawNoise(painter, scale);
+    drawLine(painter, scale);
+    if (willDrawSignal() || !m_network->history().empty())
+        painter.fillRect(qualityArea(*m_network, scale, lineMetric()),
+                         withAlpha(Qt::white, kVeilOpacity));
+    painter.restore();
+}
+
+void TSNetworkDetailsView::drawNoise(QPainter& painter, const ChartScale& scale) const
+{
+    const SampleLine noise =
+        sampleLine(m_network->history(), scale, {.metric = Metric::kNoise, .hasArea = true});
+    if (m_network->history().size() == 1) { // whose area is too thin to see
+        const QPen pen =
+            linePen(*m_network, withAlpha(Qt::white, kNoiseLineOpacity), kNoiseLineWidth);
+        for (const QPainterPath& stretch : noise.stretches)
+            painter.strokePath(stretch, pen);
+    }
+    for (const QPainterPath& area : noise.areas)
+        painter.fillPath(area, withAlpha(Qt::white, kNoiseOpacity));
+}
+
+void TSNetworkDetailsView::drawLine(QPainter& painter, const ChartScale& scale) const
+{
+    const SampleLine line =
+        sampleLine(m_network->history(), scale, {.metric = lineMetric(), .hasArea = true});
+    const QPen pen = linePen(*m_network, withAlpha(m_network->color(), 1), kLineWidth);
+    for (const QPainterPath& stretch : line.stretches)
+        painter.strokePath(stretch, pen);
+    for (const QPainterPath& area : line.areas)
+        painter.fillPath(area, withAlpha(m_network->color(), kAreaOpacity));
+}
+
+void TSNetworkDetailsView::drawHover(QPainter& painter, const QRectF& view)
+{
+    if (!m_network || !hoverPoint())
+        return;
+    // The search goes by the signal also where the bubble tells something else.
+    if (willDrawNoise() && isAlternate())
+        drawSampleBubble(painter, chartScale(view), Metric::kNoise, Qt::white);
+    else
+        drawSampleBubble(painter, chartScale(view), lineMetric(), hoverPoint()->color);
+}
+
+} // namespace tessara
