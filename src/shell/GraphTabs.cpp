@@ -1,8 +1,10 @@
 #include "shell/GraphTabs.h"
 
-#include "charts/TSSignalStrengthView.h"
+#include "charts/PaintingOrder.h"
+#include "charts/TSNetworkDetailsView.h"
 #include "foundation/Defaults.h"
 #include "foundation/Localized.h"
+#include "shell/NetworkDetailsPane.h"
 
 #include <QAction>
 #include <QActionGroup>
@@ -42,6 +44,7 @@ GraphTabs::GraphTabs(const Clock& clock, QWidget* parent)
     , m_tabItems(new QActionGroup(this))
     , m_moreTime(new QAction(localized("Show &More Time"), this))
     , m_lessTime(new QAction(localized("Show &Less Time"), this))
+    , m_networkDetails(new NetworkDetailsPane(clock))
     , m_signalStrengthView(new TSSignalStrengthView(clock))
 {
     m_tabBar->setDrawBase(false);
@@ -54,7 +57,7 @@ GraphTabs::GraphTabs(const Clock& clock, QWidget* parent)
     layout->addWidget(m_pages, 1);
     setMinimumHeight(kSmallestHeight);
 
-    QWidget* const pages[] = {nullptr, m_signalStrengthView, nullptr, nullptr};
+    QWidget* const pages[] = {m_networkDetails, m_signalStrengthView, nullptr, nullptr};
     for (std::size_t i = 0; i < std::size(kTabs); ++i)
         addTab(kTabs[i].title, pages[i]);
     connect(m_tabBar, &QTabBar::currentChanged, this, &GraphTabs::tabDidChange);
@@ -63,8 +66,10 @@ GraphTabs::GraphTabs(const Clock& clock, QWidget* parent)
     m_lessTime->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_BracketLeft));
     connect(m_moreTime, &QAction::triggered, this, [this] { magnify(kMagnification); });
     connect(m_lessTime, &QAction::triggered, this, [this] { magnify(-kMagnification); });
-    connect(m_signalStrengthView, &TSSignalStrengthView::timescaleDidChange, this,
-            &GraphTabs::validateTimescaleItems);
+    for (const TSSignalStrengthView* chart : findChildren<TSSignalStrengthView*>())
+        connect(chart, &TSSignalStrengthView::timescaleDidChange, this,
+                &GraphTabs::validateChartItems);
+    tabDidChange(m_tabBar->currentIndex());
 }
 
 void GraphTabs::addTab(const char* title, QWidget* page)
@@ -93,7 +98,7 @@ void GraphTabs::tabDidChange(int index)
 {
     m_pages->setCurrentIndex(index);
     m_tabItems->actions().at(index)->setChecked(true);
-    validateTimescaleItems();
+    validateChartItems();
     configure();
 }
 
@@ -105,7 +110,7 @@ void GraphTabs::configureSelectedTabView(const NetworkList& filteredNetworks)
 
 void GraphTabs::configure()
 {
-    auto* chart = qobject_cast<TSSignalStrengthView*>(m_pages->currentWidget());
+    TSSignalStrengthView* chart = selectedChart();
     if (!chart)
         return;
     chart->setUnits(unitsOfSetting(Defaults::standard().integerForKey(DefaultKey::Units)));
@@ -113,11 +118,14 @@ void GraphTabs::configure()
         m_filteredNetworks, &TSNetwork::isUserHighlighted,
         [](const NetworkPtr& network) -> const TSNetwork& { return *network; }));
     chart->setNetworks(m_filteredNetworks);
+    if (chart == &m_networkDetails->chart())
+        m_networkDetails->chart().setNetwork(selectedNetwork(m_filteredNetworks));
 }
 
 void GraphTabs::setReferenceTime(double time)
 {
     m_signalStrengthView->setReferenceTime(time);
+    m_networkDetails->chart().setReferenceTime(time);
 }
 
 // Settings --------------------------------------------------------------------------------------
@@ -129,9 +137,14 @@ void GraphTabs::loadDefaults()
     const auto* tab = std::ranges::find(kTabs, identifier, &GraphTab::identifier);
     selectGraph(tab == std::end(kTabs) ? 0 : static_cast<int>(tab - std::begin(kTabs)));
 
-    TSSignalStrengthView& chart = *m_signalStrengthView;
-    const std::int64_t seconds = defaults.integerForKey(DefaultKey::SignalStrengthViewTimescale);
-    chart.setTimescale(std::clamp(seconds, chart.minTimescale(), chart.maxTimescale()));
+    const auto loadTimescale = [&defaults](TSSignalStrengthView& chart, const auto* key) {
+        chart.setTimescale(std::clamp<std::int64_t>(defaults.integerForKey(key),
+                                                    chart.minTimescale(), chart.maxTimescale()));
+    };
+    loadTimescale(*m_signalStrengthView, DefaultKey::SignalStrengthViewTimescale);
+    loadTimescale(m_networkDetails->chart(), DefaultKey::NetworkSignalStrengthViewTimescale);
+    m_networkDetails->userDidSelectMetric(
+        static_cast<int>(defaults.integerForKey(DefaultKey::Metric)));
 }
 
 void GraphTabs::saveDefaults() const
@@ -142,6 +155,9 @@ void GraphTabs::saveDefaults() const
         kTabs[static_cast<std::size_t>(m_tabBar->currentIndex())].identifier.toString());
     defaults.setValue(DefaultKey::SignalStrengthViewTimescale,
                       static_cast<qint64>(m_signalStrengthView->timescale()));
+    defaults.setValue(DefaultKey::NetworkSignalStrengthViewTimescale,
+                      static_cast<qint64>(m_networkDetails->chart().timescale()));
+    defaults.setValue(DefaultKey::Metric, static_cast<qint64>(m_networkDetails->metric()));
 }
 
 // Commands --------------------------------------------------------------------------------------
@@ -150,13 +166,23 @@ void GraphTabs::addViewItems(QMenu& menu)
 {
     menu.addActions(m_tabItems->actions());
     menu.addSeparator();
+    menu.addActions(m_networkDetails->metricItems().actions());
+    menu.addSeparator();
     menu.addAction(m_moreTime);
     menu.addAction(m_lessTime);
 }
 
+TSSignalStrengthView* GraphTabs::selectedChart() const
+{
+    QWidget* page = m_pages->currentWidget();
+    return page == m_networkDetails ? &m_networkDetails->chart()
+                                    : qobject_cast<TSSignalStrengthView*>(page);
+}
+
 TSSignalStrengthView* GraphTabs::selectedTimeChart() const
 {
-    return m_pages->currentWidget() == m_signalStrengthView ? m_signalStrengthView : nullptr;
+    TSSignalStrengthView* chart = selectedChart();
+    return chart == m_signalStrengthView || chart == &m_networkDetails->chart() ? chart : nullptr;
 }
 
 void GraphTabs::magnify(double magnification)
@@ -165,11 +191,12 @@ void GraphTabs::magnify(double magnification)
         chart->magnifyWithMagnification(magnification);
 }
 
-void GraphTabs::validateTimescaleItems()
+void GraphTabs::validateChartItems()
 {
     const TSSignalStrengthView* chart = selectedTimeChart();
     m_moreTime->setEnabled(chart && chart->timescale() != chart->maxTimescale());
     m_lessTime->setEnabled(chart && chart->timescale() != chart->minTimescale());
+    m_networkDetails->metricItems().setEnabled(m_pages->currentWidget() == m_networkDetails);
 }
 
 bool GraphTabs::eventFilter(QObject* watched, QEvent* event)

@@ -12,6 +12,7 @@ class QTabBar;
 namespace tessara {
 
 class Clock;
+class NetworkDetailsPane;
 class TSSignalStrengthView;
 
 /// The lower half of the window: tabs that show the networks of the table in charts and in words.
@@ -37,6 +38,7 @@ public:
     /// Adds the commands for the tabs to a menu.
     void addViewItems(QMenu& menu);
 
+    NetworkDetailsPane& networkDetails() { return *m_networkDetails; }
     TSSignalStrengthView& signalStrengthView() { return *m_signalStrengthView; }
 
 protected:
@@ -47,9 +49,10 @@ private:
     void addTab(const char* title, QWidget* page);
     void tabDidChange(int index);
     void configure();
+    TSSignalStrengthView* selectedChart() const;
     TSSignalStrengthView* selectedTimeChart() const;
     void magnify(double magnification);
-    void validateTimescaleItems();
+    void validateChartItems();
     void setAltKeyDown(bool down);
 
     QTabBar* m_tabBar;
@@ -57,6 +60,7 @@ private:
     QActionGroup* m_tabItems;
     QAction* m_moreTime;
     QAction* m_lessTime;
+    NetworkDetailsPane* m_networkDetails;
     TSSignalStrengthView* m_signalStrengthView;
     NetworkList m_filteredNetworks;
     bool m_altKeyDown = false;

@@ -1,11 +1,13 @@
 #include "shell/GraphTabs.h"
 
-#include "charts/TSSignalStrengthView.h"
+#include "charts/TSNetworkDetailsView.h"
 #include "foundation/Defaults.h"
+#include "shell/NetworkDetailsPane.h"
 #include "shell/TestNetworks.h"
 #include "support/ManualClock.h"
 
 #include <QAction>
+#include <QComboBox>
 #include <QMenu>
 #include <QSettings>
 #include <QTabBar>
@@ -23,8 +25,9 @@ protected:
     GraphTabsTest() { tabs.addViewItems(menu); }
     ~GraphTabsTest() override
     {
-        for (const auto* key : {DefaultKey::SignalStrengthViewTimescale, DefaultKey::Units,
-                                DefaultKey::SelectedTabViewIdentifier})
+        for (const auto* key : {DefaultKey::SignalStrengthViewTimescale,
+                                DefaultKey::NetworkSignalStrengthViewTimescale, DefaultKey::Metric,
+                                DefaultKey::Units, DefaultKey::SelectedTabViewIdentifier})
             Defaults::standard().remove(key);
     }
 
@@ -41,6 +44,7 @@ protected:
     QMenu menu;
     GraphTabs tabs{clock};
     TSSignalStrengthView& chart = tabs.signalStrengthView();
+    TSNetworkDetailsView& details = tabs.networkDetails().chart();
 };
 
 } // namespace
@@ -49,6 +53,7 @@ TEST_F(GraphTabsTest, ShowTheNetworksOfTheListAndWhichAreSelected)
 {
     Defaults::standard().setValue(DefaultKey::Units, 1);
     tabs.loadDefaults();
+    tabs.selectGraph(1);
     const NetworkList networks = testNetworks(3);
     tabs.configureSelectedTabView(networks);
     EXPECT_EQ(chart.networks().size(), 3U);
@@ -63,28 +68,78 @@ TEST_F(GraphTabsTest, ShowTheNetworksOfTheListAndWhichAreSelected)
     EXPECT_FALSE(chart.itemHighlightEnabled());
 }
 
-TEST_F(GraphTabsTest, KeepTheRangeOfTimeWithinItsLimits)
+TEST_F(GraphTabsTest, ShowTheDetailsOfTheOneNetworkThatIsSelected)
 {
-    struct Case {
-        int stored;
-        int used;
-        bool canGrow, canShrink;
-    };
-    for (const Case& c : {Case{300, 300, true, false}, Case{1000, 1000, true, true},
-                          Case{3600, 3600, false, true}, Case{0, 300, true, false},
-                          Case{-5, 300, true, false}, Case{1 << 30, 3600, false, true}}) {
-        SCOPED_TRACE(c.stored);
-        Defaults::standard().setValue(DefaultKey::SignalStrengthViewTimescale, c.stored);
+    const NetworkList networks = testNetworks(3);
+    tabs.configureSelectedTabView(networks);
+    EXPECT_EQ(details.network(), nullptr);
+    networks[1]->setUserHighlighted(true);
+    tabs.configureSelectedTabView(networks);
+    EXPECT_EQ(details.network(), networks[1]);
+    networks[2]->setUserHighlighted(true);
+    tabs.selectGraph(1);
+    tabs.configureSelectedTabView(networks);
+    tabs.selectGraph(0); // which catches up
+    EXPECT_EQ(details.network(), nullptr);
+}
+
+TEST_F(GraphTabsTest, SelectTheMetricByMenuAndPopUpAndKeepIt)
+{
+    auto& popUp = *tabs.findChild<QComboBox*>();
+    for (const auto& [stored, used] : {std::pair(2, 2), std::pair(1, 1), std::pair(7, 0)}) {
+        Defaults::standard().setValue(DefaultKey::Metric, stored);
         tabs.loadDefaults();
-        EXPECT_EQ(chart.timescale(), c.used);
-        EXPECT_EQ(item("Show &More Time").isEnabled(), c.canGrow);
-        EXPECT_EQ(item("Show &Less Time").isEnabled(), c.canShrink);
+        EXPECT_EQ(popUp.currentIndex(), used);
+        EXPECT_EQ(static_cast<int>(details.metric()), used);
     }
-    item("Show &Less Time").trigger();
-    EXPECT_EQ(chart.timescale(), 2880);
-    item("Show &More Time").trigger();
+    item("Signal-to-Noise Ratio").trigger();
+    EXPECT_EQ(details.metric(), DetailsMetric::kSNR);
+    EXPECT_EQ(popUp.currentIndex(), 2);
+    popUp.setFocus();
+    QTest::keyClick(&popUp, Qt::Key_Up);
+    EXPECT_EQ(details.metric(), DetailsMetric::kSignalAndNoise);
+    EXPECT_TRUE(item("Signal and Noise").isChecked());
     tabs.saveDefaults();
-    EXPECT_EQ(Defaults::standard().integerForKey(DefaultKey::SignalStrengthViewTimescale), 3456);
+    EXPECT_EQ(Defaults::standard().integerForKey(DefaultKey::Metric), 1);
+    tabs.selectGraph(1); // whose chart has no metric
+    EXPECT_FALSE(item("Signal and Noise").isEnabled());
+}
+
+TEST_F(GraphTabsTest, KeepTheRangesOfTimeWithinTheirLimits)
+{
+    struct Tab {
+        int index;
+        const char16_t* key;
+        TSSignalStrengthView& chart;
+        int longest;
+    };
+    for (const Tab& tab : {Tab{0, DefaultKey::NetworkSignalStrengthViewTimescale, details, 28'800},
+                           Tab{1, DefaultKey::SignalStrengthViewTimescale, chart, 3600}}) {
+        SCOPED_TRACE(tab.index);
+        struct Case {
+            int stored;
+            int used;
+            bool canGrow, canShrink;
+        };
+        for (const Case& c :
+             {Case{300, 300, true, false}, Case{1000, 1000, true, true},
+              Case{tab.longest, tab.longest, false, true}, Case{0, 300, true, false},
+              Case{-5, 300, true, false}, Case{1 << 30, tab.longest, false, true}}) {
+            SCOPED_TRACE(c.stored);
+            Defaults::standard().setValue(tab.key, c.stored);
+            tabs.loadDefaults();
+            tabs.selectGraph(tab.index);
+            EXPECT_EQ(tab.chart.timescale(), c.used);
+            EXPECT_EQ(item("Show &More Time").isEnabled(), c.canGrow);
+            EXPECT_EQ(item("Show &Less Time").isEnabled(), c.canShrink);
+        }
+        tab.chart.setTimescale(3600);
+        item("Show &Less Time").trigger();
+        EXPECT_EQ(tab.chart.timescale(), 2880);
+        item("Show &More Time").trigger();
+        tabs.saveDefaults();
+        EXPECT_EQ(Defaults::standard().integerForKey(tab.key), 3456);
+    }
 }
 
 TEST_F(GraphTabsTest, OpenWithTheTabThatWasLeft)

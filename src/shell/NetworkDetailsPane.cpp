@@ -1,0 +1,66 @@
+#include "shell/NetworkDetailsPane.h"
+
+#include "charts/TSNetworkDetailsView.h"
+#include "foundation/Localized.h"
+
+#include <QAction>
+#include <QActionGroup>
+#include <QComboBox>
+#include <QLabel>
+#include <QVBoxLayout>
+
+namespace tessara {
+
+namespace {
+
+/// What the chart can show, in the order of the setting.
+constexpr const char* kMetricTitles[] = {"Signal", "Signal and Noise", "Signal-to-Noise Ratio"};
+
+} // namespace
+
+NetworkDetailsPane::NetworkDetailsPane(const Clock& clock, QWidget* parent)
+    : QWidget(parent)
+    , m_metricPopUp(new QComboBox)
+    , m_metricItems(new QActionGroup(this))
+    , m_chart(new TSNetworkDetailsView(clock))
+{
+    auto* caption = new QLabel(localized("&Show:"));
+    caption->setBuddy(m_metricPopUp);
+    m_metricPopUp->setToolTip(localized("What the chart shows of the selected network"));
+    auto* selector = new QHBoxLayout;
+    selector->addWidget(caption);
+    selector->addWidget(m_metricPopUp);
+    selector->addStretch();
+    const int margin = style()->pixelMetric(QStyle::PM_LayoutHorizontalSpacing);
+    selector->setContentsMargins(margin, margin / 2, margin, margin / 2);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addLayout(selector);
+    layout->addWidget(m_chart, 1);
+
+    for (const char* title : kMetricTitles) {
+        const int index = m_metricPopUp->count();
+        m_metricPopUp->addItem(localized(title));
+        QAction* item = m_metricItems->addAction(localized(title));
+        item->setCheckable(true);
+        connect(item, &QAction::triggered, this, [this, index] { userDidSelectMetric(index); });
+    }
+    connect(m_metricPopUp, &QComboBox::activated, this, &NetworkDetailsPane::userDidSelectMetric);
+    userDidSelectMetric(0);
+}
+
+int NetworkDetailsPane::metric() const
+{
+    return static_cast<int>(m_chart->metric());
+}
+
+void NetworkDetailsPane::userDidSelectMetric(int index)
+{
+    const int known = index < 0 || index >= m_metricPopUp->count() ? 0 : index;
+    m_metricPopUp->setCurrentIndex(known);
+    m_metricItems->actions().at(known)->setChecked(true);
+    m_chart->setMetric(static_cast<DetailsMetric>(known));
+}
+
+} // namespace tessara
