@@ -1,5 +1,6 @@
 #include "charts/ChartFile.h"
-#include "charts/TSSignalStrengthView.h"
+#include "charts/PaintingOrder.h"
+#include "charts/TSNetworkDetailsView.h"
 #include "cli/Command.h"
 #include "cli/InputOptions.h"
 #include "cli/NetworksInput.h"
@@ -17,6 +18,7 @@ namespace {
 
 const QString kKind = QStringLiteral("kind");
 const QString kBssid = QStringLiteral("bssid");
+const QString kMetric = QStringLiteral("metric");
 const QString kTimescale = QStringLiteral("timescale");
 const QString kSize = QStringLiteral("size");
 const QString kOutput = QStringLiteral("output");
@@ -29,17 +31,34 @@ struct ChartKind {
     const char* name;
     const char16_t* timescale; ///< the setting that has its seconds
     std::unique_ptr<TSSignalStrengthView> (*make)(const Clock& clock);
+    bool isOfOneNetwork = false;
 };
 
 const ChartKind kKinds[] = {
     {"signal", DefaultKey::SignalStrengthViewTimescale,
      [](const Clock& clock) { return std::make_unique<TSSignalStrengthView>(clock); }},
+    {"details", DefaultKey::NetworkSignalStrengthViewTimescale,
+     [](const Clock& clock) -> std::unique_ptr<TSSignalStrengthView> {
+         return std::make_unique<TSNetworkDetailsView>(clock);
+     },
+     true},
 };
+
+/// What a chart of one network can show.
+struct NamedMetric {
+    const char* name;
+    DetailsMetric metric;
+};
+
+const NamedMetric kMetrics[] = {{"signal", DetailsMetric::kSignal},
+                                {"noise", DetailsMetric::kSignalAndNoise},
+                                {"snr", DetailsMetric::kSNR}};
 
 /// What the command line asks for.
 struct ChartOptions {
     const ChartKind* kind = nullptr;
     QStringList bssids;
+    DetailsMetric metric{};
     qint64 timescale = 0; ///< seconds
     QSize size;
     QString output;
@@ -51,11 +70,18 @@ void addOptions(QCommandLineParser& parser)
     QStringList kinds;
     for (const ChartKind& kind : kKinds)
         kinds.append(QLatin1String(kind.name));
+    QStringList metrics;
+    for (const NamedMetric& metric : kMetrics)
+        metrics.append(QLatin1String(metric.name));
     parser.addOptions({
         {kKind, QStringLiteral("What to show: %1.").arg(kinds.join(QStringLiteral(", "))),
          QStringLiteral("KIND"), QLatin1String(kKinds[0].name)},
         {kBssid, QStringLiteral("Select a network, as in the list; may be given more than once."),
          QStringLiteral("BSSID")},
+        {kMetric,
+         QStringLiteral("What to show of the one network of details: %1.")
+             .arg(metrics.join(QStringLiteral(", "))),
+         QStringLiteral("METRIC"), QLatin1String(kMetrics[0].name)},
         {kTimescale, QStringLiteral("Seconds from edge to edge."), QStringLiteral("SECONDS")},
         {kSize, QStringLiteral("Size of the picture in points."), QStringLiteral("WxH"),
          QStringLiteral("1100x735")},
@@ -89,6 +115,22 @@ std::optional<ChartOptions> chartOptions(const QCommandLineParser& parser, QStri
     }
     options.kind = kind;
     options.bssids = parser.values(kBssid);
+
+    if (kind->isOfOneNetwork && options.bssids.size() != 1) {
+        error = QStringLiteral("--kind %1 takes one --bssid").arg(parser.value(kKind));
+        return std::nullopt;
+    }
+    if (!kind->isOfOneNetwork && parser.isSet(kMetric)) {
+        error = QStringLiteral("--kind %1 takes no --metric").arg(parser.value(kKind));
+        return std::nullopt;
+    }
+    const auto* metric = std::ranges::find(
+        kMetrics, parser.value(kMetric), [](const auto& m) { return QString::fromLatin1(m.name); });
+    if (metric == std::end(kMetrics)) {
+        error = QStringLiteral("there is no metric '%1'").arg(parser.value(kMetric));
+        return std::nullopt;
+    }
+    options.metric = metric->metric;
 
     bool isNumber = true;
     options.timescale =
@@ -158,6 +200,10 @@ ExitStatus run(const QCommandLineParser& parser, const QStringList& arguments)
     const NetworkList& networks = pipeline.filteredNetworks();
     if (const QString absent = select(options->bssids, networks); !absent.isEmpty())
         return fail(QStringLiteral("%1 holds no network %2").arg(arguments[0], absent));
+    const NetworkPtr selected = selectedNetwork(networks);
+    if (options->kind->isOfOneNetwork && !selected)
+        return fail(QStringLiteral("%1 holds several networks %2")
+                        .arg(arguments[0], options->bssids.constFirst()));
 
     const SystemClock clock;
     const auto chart = options->kind->make(clock);
@@ -167,6 +213,10 @@ ExitStatus run(const QCommandLineParser& parser, const QStringList& arguments)
     chart->setReferenceTime(input.lastScanTime);
     chart->setItemHighlightEnabled(!options->bssids.isEmpty());
     chart->setNetworks(networks);
+    if (auto* details = qobject_cast<TSNetworkDetailsView*>(chart.get())) {
+        details->setNetwork(selected);
+        details->setMetric(options->metric);
+    }
     const QString fault = writeChart(*chart, options->output);
     return fault.isEmpty() ? kDone : fail(fault);
 }

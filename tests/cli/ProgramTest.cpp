@@ -167,6 +167,10 @@ TEST_F(ProgramTest, PaintsAChart)
     EXPECT_NE(contents("out.png"), plain);
     EXPECT_EQ(chart("--size 640x320 --default Units=1").exitCode, 0);
     EXPECT_NE(contents("out.png"), plain);
+    EXPECT_EQ(chart("--kind details --bssid 0A:00:00:00:00:02").exitCode, 0);
+    const QByteArray signal = contents("out.png");
+    EXPECT_EQ(chart("--kind details --bssid 0A:00:00:00:00:02 --metric snr").exitCode, 0);
+    EXPECT_NE(contents("out.png"), signal);
 
     write("out.png", "old");
     struct Case {
@@ -175,7 +179,10 @@ TEST_F(ProgramTest, PaintsAChart)
         const char* says;
     };
     for (const Case& c :
-         {Case{"--bssid 02:00:00:00:00:09", 1, "holds no network 02:00"},
+         {Case{"--kind details", 2, "details takes one --bssid"},
+          Case{"--metric snr", 2, "signal takes no --metric"},
+          Case{"--kind details --bssid 02:00:00:00:00:01 --metric best", 2, "no metric 'best'"},
+          Case{"--bssid 02:00:00:00:00:09", 1, "holds no network 02:00"},
           Case{"--kind pie", 2, "no kind of chart 'pie'"}, Case{"--size 0x10", 2, "--size takes"},
           Case{"--size 99999x99999", 2, "--size takes"},
           Case{"--timescale 0", 2, "--timescale takes"},
