@@ -160,6 +160,7 @@ void MainWindow::makeToolBar()
 void MainWindow::makeQuickFilter()
 {
     m_quickFilter = new QComboBox;
+    m_quickFilter->setObjectName(QStringLiteral("QuickFilter"));
     m_quickFilter->setAccessibleName(localized("Quick Filter"));
     m_quickFilter->setToolTip(localized("Show only networks of one kind"));
     m_quickFilterItems = new QActionGroup(this);

@@ -26,6 +26,7 @@ NetworkDetailsPane::NetworkDetailsPane(const Clock& clock, QWidget* parent)
 {
     auto* caption = new QLabel(localized("&Show:"));
     caption->setBuddy(m_metricPopUp);
+    m_metricPopUp->setObjectName(QStringLiteral("Metric"));
     m_metricPopUp->setToolTip(localized("What the chart shows of the selected network"));
     auto* selector = new QHBoxLayout;
     selector->addWidget(caption);

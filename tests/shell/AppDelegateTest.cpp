@@ -264,6 +264,7 @@ TEST_F(AppDelegateTest, ShowsWhatAScanFindsInTheOrderOfTheHeader)
 TEST_F(AppDelegateTest, ShowsTheSelectionOfTheListInTheChart)
 {
     launch();
+    window().graphTabs().selectGraph(1);
     engineScans({named("0:0:0:0:0:1", "Beta"), named("0:0:0:0:0:2", "Alpha")});
     const TSSignalStrengthView& chart = window().graphTabs().signalStrengthView();
     EXPECT_EQ(chart.networks().size(), 2U);
@@ -328,7 +329,8 @@ TEST_F(AppDelegateTest, NarrowsTheListByLineKindAndKeys)
     QTest::mouseClick(sideView.viewport(), Qt::LeftButton, {},
                       sideView.visualRect(sideView.model()->index(0, 0)).center());
     EXPECT_THAT(names(), ElementsAre("Home", "Work"));
-    Q_EMIT delegate->window().findChild<QComboBox*>()->activated(2); // secure networks
+    auto* quickFilter = window().findChild<QComboBox*>(QStringLiteral("QuickFilter"));
+    Q_EMIT quickFilter->activated(2); // secure networks
     EXPECT_THAT(names(), ElementsAre());
     EXPECT_EQ(Defaults::standard().integerForKey(DefaultKey::QuickFilterSelectedItem), 2);
 }
