@@ -29,11 +29,12 @@ NetworkDetailsPane::NetworkDetailsPane(const Clock& clock, QWidget* parent)
     m_metricPopUp->setObjectName(QStringLiteral("Metric"));
     m_metricPopUp->setToolTip(localized("What the chart shows of the selected network"));
     auto* selector = new QHBoxLayout;
+    const int margin = style()->pixelMetric(QStyle::PM_LayoutHorizontalSpacing);
+    selector->setSpacing(margin);
+    selector->setContentsMargins(margin, margin / 2, margin, margin / 2);
     selector->addWidget(caption);
     selector->addWidget(m_metricPopUp);
     selector->addStretch();
-    const int margin = style()->pixelMetric(QStyle::PM_LayoutHorizontalSpacing);
-    selector->setContentsMargins(margin, margin / 2, margin, margin / 2);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
