@@ -166,8 +166,8 @@ void GraphTabs::addViewItems(QMenu& menu)
 {
     menu.addActions(m_tabItems->actions());
     menu.addSeparator();
-    menu.addActions(m_networkDetails->metricItems().actions());
-    menu.addSeparator();
+    menu.addMenu(localized("Details &Chart"))
+        ->addActions(m_networkDetails->metricItems().actions());
     menu.addAction(m_moreTime);
     menu.addAction(m_lessTime);
 }
@@ -208,6 +208,8 @@ bool GraphTabs::eventFilter(QObject* watched, QEvent* event)
     case QEvent::ShortcutOverride:
         if (isAltKey() && m_pages->underMouse())
             return true; // over a chart it asks about a sample, not for the menus
+        if (!isAltKey())
+            setAltKeyDown(false); // it modifies: a menu may open, and get the release
         break;
     case QEvent::KeyPress:
     case QEvent::KeyRelease:
