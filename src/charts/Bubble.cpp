@@ -2,6 +2,7 @@
 
 #include "charts/ChartFrame.h"
 #include "charts/ChartText.h"
+#include "charts/RoundedCorner.h"
 #include "charts/TSThemeHelper.h"
 
 #include <QPainter>
@@ -37,14 +38,6 @@ Measures measuresOf(const WindowScale& window)
             .lineHeightPadding = std::min(4.0, 4 * sy),
             .radius = 5 * sx * sy,
             .dot = 6 * sy};
-}
-
-/// A quarter of a circle from the current position, which lies a radius before a corner.
-void addCorner(QPainterPath& path, const QPointF& corner, const QPointF& end)
-{
-    constexpr double kCircle = 0.5522847498; // of the way to the corner
-    const QPointF start = path.currentPosition();
-    path.cubicTo(start + kCircle * (corner - start), end + kCircle * (corner - end), end);
 }
 
 /// A soft shadow down to the right: paler the farther out.

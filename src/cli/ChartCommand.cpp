@@ -1,6 +1,7 @@
 #include "charts/ChartFile.h"
 #include "charts/PaintingOrder.h"
 #include "charts/TSNetworkDetailsView.h"
+#include "charts/TSSpectrumView.h"
 #include "cli/Command.h"
 #include "cli/InputOptions.h"
 #include "cli/NetworksInput.h"
@@ -29,7 +30,7 @@ constexpr qint64 kLongestTimescale = 24 * 60 * 60;
 /// One kind of chart.
 struct ChartKind {
     const char* name;
-    const char16_t* timescale; ///< the setting that has its seconds
+    const char16_t* timescale; ///< the setting that has its seconds; none for a chart without time
     std::unique_ptr<TSSignalStrengthView> (*make)(const Clock& clock);
     bool isOfOneNetwork = false;
 };
@@ -42,6 +43,10 @@ const ChartKind kKinds[] = {
          return std::make_unique<TSNetworkDetailsView>(clock);
      },
      true},
+    {"spectrum", nullptr,
+     [](const Clock& clock) -> std::unique_ptr<TSSignalStrengthView> {
+         return std::make_unique<TSSpectrumView>(clock);
+     }},
 };
 
 /// What a chart of one network can show.
@@ -59,7 +64,7 @@ struct ChartOptions {
     const ChartKind* kind = nullptr;
     QStringList bssids;
     DetailsMetric metric{};
-    qint64 timescale = 0; ///< seconds
+    std::optional<qint64> timescale; ///< seconds; none for a chart without time
     QSize size;
     QString output;
 };
@@ -132,15 +137,20 @@ std::optional<ChartOptions> chartOptions(const QCommandLineParser& parser, QStri
     }
     options.metric = metric->metric;
 
-    bool isNumber = true;
-    options.timescale =
-        parser.isSet(kTimescale)
-            ? parser.value(kTimescale).toLongLong(&isNumber)
-            : std::clamp<qint64>(Defaults::standard().integerForKey(kind->timescale), 1,
-                                 kLongestTimescale);
-    if (!isNumber || options.timescale < 1 || options.timescale > kLongestTimescale) {
-        error = QStringLiteral("--timescale takes seconds from 1 to %1").arg(kLongestTimescale);
+    if (!kind->timescale && parser.isSet(kTimescale)) {
+        error = QStringLiteral("a chart of kind '%1' takes no --timescale")
+                    .arg(QLatin1String(kind->name));
         return std::nullopt;
+    }
+    if (kind->timescale) {
+        bool isNumber = true;
+        options.timescale = parser.isSet(kTimescale)
+                                ? parser.value(kTimescale).toLongLong(&isNumber)
+                                : Defaults::standard().integerForKey(kind->timescale);
+        if (!isNumber || options.timescale < 1 || options.timescale > kLongestTimescale) {
+            error = QStringLiteral("--timescale takes seconds from 1 to %1").arg(kLongestTimescale);
+            return std::nullopt;
+        }
     }
     const auto size = parsedSize(parser.value(kSize));
     if (!size) {
@@ -209,7 +219,8 @@ ExitStatus run(const QCommandLineParser& parser, const QStringList& arguments)
     const auto chart = options->kind->make(clock);
     chart->resize(options->size);
     chart->setUnits(unitsOfSetting(defaults.integerForKey(DefaultKey::Units)));
-    chart->setTimescale(options->timescale);
+    if (options->timescale)
+        chart->setTimescale(*options->timescale);
     chart->setReferenceTime(input.lastScanTime);
     chart->setItemHighlightEnabled(!options->bssids.isEmpty());
     chart->setNetworks(networks);
