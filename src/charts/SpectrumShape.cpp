@@ -2,6 +2,8 @@
 
 #include "charts/RoundedCorner.h"
 
+#include <algorithm>
+
 namespace tessara {
 
 namespace {
@@ -33,9 +35,10 @@ SpectrumShape flatTop(const Anchors& at, const ChartScale& scale, double spread,
     const double shoulder = at.floor + height * (1 - 0.8 * share);
     const double atShoulder = 7.5 * share * window.horizontal * spread;
     const double atTop = 15 * share * window.horizontal * spread;
-    const double radius = 10 * share;
     const double left = at.left + atTop;
     const double right = at.right - atTop;
+    // Where the axis is narrow, the corners meet in the middle at most.
+    const double radius = std::min(10 * share, (right - left) / 2);
 
     QPainterPath path({at.right, at.floor});
     path.lineTo(at.right - atShoulder, shoulder);

@@ -1,5 +1,6 @@
 #include "shell/AppDelegate.h"
 
+#include "charts/TSSpectrumView.h"
 #include "foundation/Defaults.h"
 #include "foundation/Localized.h"
 #include "shell/ActivityIndicator.h"
@@ -71,6 +72,8 @@ void AppDelegate::connectParts(NotificationCenter& notifications)
     connect(&table, &TSNetworksView::sortDescriptorsDidChange, this,
             [this] { filterAndSetNetworks(m_pipeline.networks()); });
     connect(&table, &TSNetworksView::didEndEditing, this, &AppDelegate::prepareAndReload);
+    connect(&table, &TSNetworksView::columnDidChangeHiddenState, this,
+            &AppDelegate::configureSpectrumLabels);
 
     using Exchange = ExchangeCommands;
     connect(&m_window, &MainWindow::fileMenuWillShow, &m_exchange, &Exchange::validateMenuItems);
@@ -129,6 +132,7 @@ void AppDelegate::applicationWillFinishLaunching(const QString& file)
     m_window.restoreTabsSplitter(
         Defaults::standard().value(DefaultKey::VerticalSplitView).toByteArray());
     m_window.graphTabs().loadDefaults();
+    configureSpectrumLabels();
     m_window.sideView().setExpandedItems(
         Defaults::standard().value(DefaultKey::SideViewExpandedItems).toStringList());
     prepareAndReload();
@@ -417,9 +421,26 @@ void AppDelegate::clearSideViewSelection()
     m_sideViewSelection = {};
 }
 
+/// The spectrum tells of a network what the list has columns for.
+void AppDelegate::configureSpectrumLabels()
+{
+    const auto columns = m_window.networksView().visibleColumns();
+    const auto isShown = [&](QStringView identifier) {
+        return std::ranges::count(columns, columnWithIdentifier(identifier)) > 0;
+    };
+    TSSpectrumView& spectrum = m_window.graphTabs().spectrumView();
+    spectrum.setDisplayAnnotations(isShown(u"ANNOTATIONS"));
+    spectrum.setDisplayDeviceName(isShown(u"DEVICE_NAME"));
+}
+
 void AppDelegate::setReferenceTime(double time)
 {
     m_window.graphTabs().setReferenceTime(time);
+}
+
+void AppDelegate::setDisplayOnlyLastSeen(bool only)
+{
+    m_window.graphTabs().spectrumView().setDisplayOnlyLastSeen(only);
 }
 
 void AppDelegate::selectAssociatedNetworks()

@@ -51,6 +51,7 @@ private:
     void configureAll() override;
     void setReferenceTime(double time) override;
     void clearSideViewSelection() override;
+    void setDisplayOnlyLastSeen(bool only) override;
     void selectAssociatedNetworks() override;
     void updateStateInfo() override;
     void updateWindowTitle() override;
@@ -84,6 +85,7 @@ private:
     void checkVendorsDatabaseLater();
     void configureNetworksView();
     void configureSelectedTabView();
+    void configureSpectrumLabels();
     void configureSideView();
     void sideViewSelectionDidChange(const std::optional<TSSideViewItem>& item);
     void userDidClickSourceList();

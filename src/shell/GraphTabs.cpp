@@ -2,6 +2,7 @@
 
 #include "charts/PaintingOrder.h"
 #include "charts/TSNetworkDetailsView.h"
+#include "charts/TSSpectrumView.h"
 #include "foundation/Defaults.h"
 #include "foundation/Localized.h"
 #include "shell/NetworkDetailsPane.h"
@@ -46,6 +47,7 @@ GraphTabs::GraphTabs(const Clock& clock, QWidget* parent)
     , m_lessTime(new QAction(localized("Show &Less Time"), this))
     , m_networkDetails(new NetworkDetailsPane(clock))
     , m_signalStrengthView(new TSSignalStrengthView(clock))
+    , m_spectrumView(new TSSpectrumView(clock))
 {
     m_tabBar->setDrawBase(false);
     m_tabBar->setExpanding(false);
@@ -57,7 +59,7 @@ GraphTabs::GraphTabs(const Clock& clock, QWidget* parent)
     layout->addWidget(m_pages, 1);
     setMinimumHeight(kSmallestHeight);
 
-    QWidget* const pages[] = {m_networkDetails, m_signalStrengthView, nullptr, nullptr};
+    QWidget* const pages[] = {m_networkDetails, m_signalStrengthView, m_spectrumView, nullptr};
     for (std::size_t i = 0; i < std::size(kTabs); ++i)
         addTab(kTabs[i].title, pages[i]);
     connect(m_tabBar, &QTabBar::currentChanged, this, &GraphTabs::tabDidChange);

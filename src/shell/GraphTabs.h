@@ -14,6 +14,7 @@ namespace tessara {
 class Clock;
 class NetworkDetailsPane;
 class TSSignalStrengthView;
+class TSSpectrumView;
 
 /// The lower half of the window: tabs that show the networks of the table in charts and in words.
 /// Only the tab in sight takes part in an update; the others catch up when they are selected.
@@ -40,6 +41,7 @@ public:
 
     NetworkDetailsPane& networkDetails() { return *m_networkDetails; }
     TSSignalStrengthView& signalStrengthView() { return *m_signalStrengthView; }
+    TSSpectrumView& spectrumView() { return *m_spectrumView; }
 
 protected:
     /// Follows the Option key, which is Alt here, in the window that it filters.
@@ -62,6 +64,7 @@ private:
     QAction* m_lessTime;
     NetworkDetailsPane* m_networkDetails;
     TSSignalStrengthView* m_signalStrengthView;
+    TSSpectrumView* m_spectrumView;
     NetworkList m_filteredNetworks;
     bool m_altKeyDown = false;
 };
