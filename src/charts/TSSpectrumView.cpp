@@ -59,16 +59,14 @@ QString captionText(const TSNetwork& network)
     return text;
 }
 
-/// A line of text, and where it is centred.
+/// A line of a label.
 struct LabelLine {
-    QPointF origin;
+    double above; ///< the label's foot, in points of a fresh window
     QString text;
     TextAttributes attributes;
 };
 
-/// The ground of a label, behind its lines.
-QRectF labelBox(const std::vector<LabelLine>& lines, const QPointF& foot,
-                const QPaintDevice& device)
+QSizeF sizeOf(const std::vector<LabelLine>& lines, const QPaintDevice& device)
 {
     QSizeF size(0, 0);
     for (const LabelLine& line : lines) {
@@ -77,7 +75,7 @@ QRectF labelBox(const std::vector<LabelLine>& lines, const QPointF& foot,
     }
     if (containsEmoji(lines.front().text))
         size.rheight() += lines.size() == 1 ? 10 : 5; // their glyphs are higher than they tell
-    return {foot.x() - size.width() / 2 - 12, foot.y() - 7, size.width() + 24, size.height()};
+    return size;
 }
 
 } // namespace
@@ -230,40 +228,48 @@ void TSSpectrumView::drawNetwork(QPainter& painter, const SpectrumBand& band,
 void TSSpectrumView::drawLabel(QPainter& painter, const SpectrumShape& shape,
                                const TSNetwork& network, const Emphasis& emphasis) const
 {
+    constexpr double kBeside = 12; // from the text to the edge of its box
     const double scale = std::min(1.1, windowScale().vertical);
-    const QPointF foot(shape.center, shape.top + scale * 13);
     const TextStyle style = network.isAssociated() ? TextStyle::kBold : TextStyle::kPlain;
     const bool hasAnnotations = displayAnnotations() && network.hasAnnotations();
     const bool hasDeviceName = displayDeviceName() && network.hasDeviceName();
 
     // From the top: the name, the device's name, the note.
     std::vector<LabelLine> lines;
-    const auto addLine = [&](double above, const QString& text, const TextAttributes& attributes) {
-        lines.push_back({foot + QPointF(0, above * scale), text, attributes});
-    };
     const double aboveNote = hasAnnotations ? 14 : 0;
-    addLine(aboveNote + (hasDeviceName ? 14 : 0),
-            network.isHidden() ? network.bssid() : network.ssid(),
-            {scale * 14, withAlpha(emphasis.color, emphasis.stroke), style});
+    lines.push_back({aboveNote + (hasDeviceName ? 14 : 0),
+                     network.isHidden() ? network.bssid() : network.ssid(),
+                     {scale * 14, withAlpha(emphasis.color, emphasis.stroke), style}});
     if (hasDeviceName) {
-        addLine(aboveNote, network.deviceName(),
-                {scale * 11, withAlpha(emphasis.color, emphasis.stroke * 0.8), style});
+        lines.push_back({aboveNote,
+                         network.deviceName(),
+                         {scale * 11, withAlpha(emphasis.color, emphasis.stroke * 0.8), style}});
     }
     if (hasAnnotations) {
-        addLine(0, network.annotations(),
-                {scale * 10, withAlpha(Qt::white, emphasis.stroke * 0.5), TextStyle::kItalic});
+        lines.push_back(
+            {0,
+             network.annotations(),
+             {scale * 10, withAlpha(Qt::white, emphasis.stroke * 0.5), TextStyle::kItalic}});
     }
 
+    // Above the middle of the shape, but not beyond the edges of the view.
+    const QSizeF size = sizeOf(lines, *painter.device());
+    const double reach = size.width() / 2 + kBeside;
+    const QPointF foot(std::max(std::min(shape.center, width() - reach), reach),
+                       shape.top + scale * 13);
     if (network.isUserHighlighted() && itemHighlightEnabled()) {
         painter.save();
         painter.setRenderHint(QPainter::Antialiasing, true);
         painter.setPen(QPen(withAlpha(emphasis.color, emphasis.stroke / 3), 1.5));
         painter.setBrush(withAlpha(Qt::black, 0.8));
-        painter.drawRoundedRect(labelBox(lines, foot, *painter.device()), scale * 6, scale * 6);
+        painter.drawRoundedRect(QRectF(foot.x() - reach, foot.y() - 7, 2 * reach, size.height()),
+                                scale * 6, scale * 6);
         painter.restore();
     }
-    for (const LabelLine& line : lines)
-        centerTextInContextAtOrigin(painter, line.origin, line.text, line.attributes);
+    for (const LabelLine& line : lines) {
+        centerTextInContextAtOrigin(painter, foot + QPointF(0, line.above * scale), line.text,
+                                    line.attributes);
+    }
 }
 
 void TSSpectrumView::drawCaption(QPainter& painter, const QPointF& origin, const TSNetwork& network,
