@@ -1,6 +1,7 @@
 #include "charts/HoverSearch.h"
 #include "charts/OffscreenApplication.h"
 #include "charts/TSNetworkDetailsView.h"
+#include "charts/TSSpectrumView.h"
 
 #include <QImage>
 #include <QPainter>
@@ -95,6 +96,27 @@ void detailsChart(benchmark::State& state)
     state.counters["points"] = static_cast<double>(chart.maxTimescale()); // two each two seconds
 }
 
+/// A repaint of the spectrum of 200 networks, with their names.
+void spectrumChart(benchmark::State& state)
+{
+    constexpr int kChannels[] = {1, 6, 11, 13, 36, 44, 52, 100, 116, 149};
+    NetworkList networks = wanderingNetworks(10);
+    for (std::size_t i = 0; i < networks.size(); ++i) {
+        ScanDictionary dictionary = networks[i]->network();
+        dictionary.channelNumber = kChannels[i % std::size(kChannels)];
+        networks[i]->setNetwork(std::move(dictionary));
+    }
+    const SystemClock clock;
+    TSSpectrumView chart(clock);
+    chart.resize(kSize);
+    chart.setNetworks(networks);
+    QImage image = blankImage();
+    for (auto _ : state) {
+        QPainter painter(&image);
+        chart.paint(painter);
+    }
+}
+
 /// What a painter takes for polylines of as many points, and nothing else.
 /// @param state its range is the points of one polyline: the painter is faster with shorter ones
 void barePolylines(benchmark::State& state)
@@ -151,6 +173,7 @@ BENCHMARK(signalChart)
     ->Arg(18 * kHour)
     ->Unit(benchmark::kMillisecond);
 BENCHMARK(detailsChart)->Unit(benchmark::kMillisecond);
+BENCHMARK(spectrumChart)->Unit(benchmark::kMillisecond);
 BENCHMARK(hover)->ArgName("history")->Arg(kHour)->Arg(18 * kHour)->Unit(benchmark::kMicrosecond);
 
 } // namespace

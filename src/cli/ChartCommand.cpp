@@ -138,8 +138,7 @@ std::optional<ChartOptions> chartOptions(const QCommandLineParser& parser, QStri
     options.metric = metric->metric;
 
     if (!kind->timescale && parser.isSet(kTimescale)) {
-        error = QStringLiteral("a chart of kind '%1' takes no --timescale")
-                    .arg(QLatin1String(kind->name));
+        error = QStringLiteral("--kind %1 takes no --timescale").arg(parser.value(kKind));
         return std::nullopt;
     }
     if (kind->timescale) {

@@ -171,6 +171,8 @@ TEST_F(ProgramTest, PaintsAChart)
     const QByteArray signal = contents("out.png");
     EXPECT_EQ(chart("--kind details --bssid 0A:00:00:00:00:02 --metric snr").exitCode, 0);
     EXPECT_NE(contents("out.png"), signal);
+    EXPECT_EQ(chart("--size 640x320 --kind spectrum").exitCode, 0);
+    EXPECT_NE(contents("out.png"), plain);
 
     write("out.png", "old");
     struct Case {
@@ -187,6 +189,7 @@ TEST_F(ProgramTest, PaintsAChart)
           Case{"--size 99999x99999", 2, "--size takes"},
           Case{"--timescale 0", 2, "--timescale takes"},
           Case{"--timescale soon", 2, "--timescale takes"},
+          Case{"--kind spectrum --timescale 300", 2, "takes no --timescale"},
           Case{"--output out.gif", 2, ".png, .pdf or .svg"},
           Case{"--output gone/out.svg", 1, "gone/out.svg: "}}) {
         SCOPED_TRACE(c.options);

@@ -1,6 +1,7 @@
 #include "shell/GraphTabs.h"
 
 #include "charts/TSNetworkDetailsView.h"
+#include "charts/TSSpectrumView.h"
 #include "foundation/Defaults.h"
 #include "shell/NetworkDetailsPane.h"
 #include "shell/TestNetworks.h"
@@ -155,6 +156,18 @@ TEST_F(GraphTabsTest, OpenWithTheTabThatWasLeft)
     next.loadDefaults(); // shows the first that there is
     EXPECT_TRUE(
         next.findChild<QTabBar*>()->isTabEnabled(next.findChild<QTabBar*>()->currentIndex()));
+}
+
+TEST_F(GraphTabsTest, ShowTheSpectrumWhichKnowsNoTime)
+{
+    const NetworkList networks = testNetworks(3);
+    networks[1]->setUserHighlighted(true);
+    tabs.configureSelectedTabView(networks);
+    EXPECT_TRUE(tabs.spectrumView().networks().empty()); // not in sight
+    item("Spectrum").trigger();
+    EXPECT_EQ(tabs.spectrumView().networks().back(), networks[1]);
+    EXPECT_TRUE(tabs.spectrumView().itemHighlightEnabled());
+    EXPECT_FALSE(item("Show &More Time").isEnabled());
 }
 
 TEST_F(GraphTabsTest, TellTheChartsWhileAltIsHeld)
