@@ -2,11 +2,6 @@
 
 namespace tessara {
 
-QRectF detailsChartRect(const QRectF& view)
-{
-    return {view.x() + 45, view.y() + 30, view.width() - 95, view.height() - 55};
-}
-
 QRectF qualityArea(const TSNetwork& network, const ChartScale& scale, Metric metric)
 {
     const RunningStatistic& values =

@@ -5,10 +5,6 @@
 
 namespace tessara {
 
-/// The chart of a network in a view: room for the labels of its values at both sides, for the
-/// times below and for a bubble's mark above.
-QRectF detailsChartRect(const QRectF& view);
-
 /// The part of a chart below the best signal, or the best ratio, that a network ever had; empty
 /// where that lies on the floor.
 /// @param metric kSignal or kSNR

@@ -36,6 +36,7 @@ void TSNetworkDetailsView::setNetwork(NetworkPtr network)
         clearHoverPoint();
     m_network = std::move(network);
     setHighlightedNetworks(m_network ? NetworkList{m_network} : NetworkList());
+    configureCoCharts();
     setNeedsDisplay();
 }
 
@@ -44,6 +45,12 @@ void TSNetworkDetailsView::setNetworks(const NetworkList& networks)
     TSSignalStrengthView::setNetworks(networks);
     // Hovering searches the network that is shown, whichever are selected.
     setHighlightedNetworks(m_network ? NetworkList{m_network} : NetworkList());
+    configureCoCharts();
+}
+
+void TSNetworkDetailsView::configureCoCharts()
+{
+    m_coCharts.setNetworks(networks(), m_network, displayOnlyLastSeen());
 }
 
 void TSNetworkDetailsView::setMetric(DetailsMetric metric)
@@ -54,7 +61,7 @@ void TSNetworkDetailsView::setMetric(DetailsMetric metric)
 
 QRectF TSNetworkDetailsView::rectForChart(const QRectF& view) const
 {
-    return detailsChartRect(view);
+    return m_coCharts.layout(view).chart;
 }
 
 double TSNetworkDetailsView::topMargin(const QRectF& /*view*/) const
@@ -62,12 +69,34 @@ double TSNetworkDetailsView::topMargin(const QRectF& /*view*/) const
     return kTopMargin;
 }
 
+void TSNetworkDetailsView::drawRect(QPainter& painter, const QRectF& view)
+{
+    TSSignalStrengthView::drawRect(painter, view);
+    // The charts share one scale, which is labelled at both ends of the row.
+    const CoChartsLayout layout = m_coCharts.layout(view);
+    if (m_coCharts.willDrawCoSSID())
+        drawFrame(painter, layout.coSSID, false, !m_coCharts.willDrawCoChannel());
+    if (m_coCharts.willDrawCoChannel())
+        drawFrame(painter, layout.coChannel, false, true);
+}
+
 void TSNetworkDetailsView::drawChart(QPainter& painter, const ChartScale& scale)
 {
-    drawChartFrame(
-        painter, scale,
-        {.metric = lineMetric(), .leftLabels = true, .rightLabels = true, .isSparse = true},
-        windowScale());
+    const bool isAlone = !m_coCharts.willDrawCoSSID() && !m_coCharts.willDrawCoChannel();
+    drawFrame(painter, scale.rect, true, isAlone);
+}
+
+void TSNetworkDetailsView::drawFrame(QPainter& painter, const QRectF& chart, bool leftLabels,
+                                     bool rightLabels)
+{
+    ChartScale scale = chartScale(viewRect());
+    scale.rect = chart;
+    drawChartFrame(painter, scale,
+                   {.metric = lineMetric(),
+                    .leftLabels = leftLabels,
+                    .rightLabels = rightLabels,
+                    .isSparse = true},
+                   windowScale());
 }
 
 void TSNetworkDetailsView::drawDataPoints(QPainter& painter, const ChartScale& scale)
@@ -117,6 +146,15 @@ void TSNetworkDetailsView::drawLine(QPainter& painter, const ChartScale& scale) 
 
 void TSNetworkDetailsView::drawHover(QPainter& painter, const QRectF& view)
 {
+    const CoChartsLayout layout = m_coCharts.layout(view);
+    const CoChartsLook look{.scale = chartScale(view),
+                            .metric = lineMetric(),
+                            .window = windowScale(),
+                            .hasHoverPoint = hoverPoint().has_value()};
+    if (m_coCharts.willDrawCoSSID())
+        m_coCharts.drawCoSSIDNetworksChart(painter, layout.coSSID, look);
+    if (m_coCharts.willDrawCoChannel())
+        m_coCharts.drawCoChannelNetworksChart(painter, layout.coChannel, look);
     if (!m_network || !hoverPoint())
         return;
     // The search goes by the signal also where the bubble tells something else.
@@ -124,6 +162,29 @@ void TSNetworkDetailsView::drawHover(QPainter& painter, const QRectF& view)
         drawSampleBubble(painter, chartScale(view), Metric::kNoise, Qt::white);
     else
         drawSampleBubble(painter, chartScale(view), lineMetric(), hoverPoint()->color);
+}
+
+// The mouse -------------------------------------------------------------------------------------
+
+void TSNetworkDetailsView::mouseMoved(const QPointF& mouse)
+{
+    TSSignalStrengthView::mouseMoved(mouse);
+    if (m_coCharts.mouseMoved(mouse, viewRect()))
+        setHoverNeedsDisplay();
+}
+
+void TSNetworkDetailsView::mouseExited()
+{
+    TSSignalStrengthView::mouseExited();
+    if (m_coCharts.mouseExited())
+        setHoverNeedsDisplay();
+}
+
+void TSNetworkDetailsView::mousePressEvent(QMouseEvent* event)
+{
+    TSSignalStrengthView::mousePressEvent(event);
+    for (const QString& bssid : m_coCharts.pickedBssids())
+        Q_EMIT userDidPickNetwork(bssid);
 }
 
 } // namespace tessara

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "charts/CoCharts.h"
 #include "charts/TSSignalStrengthView.h"
 
 namespace tessara {
@@ -8,7 +9,7 @@ namespace tessara {
 enum class DetailsMetric { kSignal, kSignalAndNoise, kSNR };
 
 /// The chart of the history of one network. What lies below the best value that the network ever
-/// had is veiled.
+/// had is veiled. Beside it stand the networks of the same name and on the same channel.
 class TSNetworkDetailsView final : public TSSignalStrengthView {
     Q_OBJECT
 
@@ -27,20 +28,31 @@ public:
     bool willDrawSignal() const { return m_metric != DetailsMetric::kSNR; }
     bool willDrawNoise() const { return m_metric == DetailsMetric::kSignalAndNoise; }
 
+Q_SIGNALS:
+    /// The user has clicked the bar of another network.
+    void userDidPickNetwork(const QString& bssid);
+
 protected:
     QRectF rectForChart(const QRectF& view) const override;
     double topMargin(const QRectF& view) const override;
+    void drawRect(QPainter& painter, const QRectF& view) override;
     void drawChart(QPainter& painter, const ChartScale& scale) override;
     void drawDataPoints(QPainter& painter, const ChartScale& scale) override;
     void drawHover(QPainter& painter, const QRectF& view) override;
+    void mouseMoved(const QPointF& mouse) override;
+    void mouseExited() override;
+    void mousePressEvent(QMouseEvent* event) override;
 
 private:
     /// Of the line, the scale and the hovered value; noise has but an area.
     Metric lineMetric() const { return willDrawSignal() ? Metric::kSignal : Metric::kSNR; }
+    void configureCoCharts();
+    void drawFrame(QPainter& painter, const QRectF& chart, bool leftLabels, bool rightLabels);
     void drawNoise(QPainter& painter, const ChartScale& scale) const;
     void drawLine(QPainter& painter, const ChartScale& scale) const;
 
     NetworkPtr m_network;
+    CoCharts m_coCharts;
     DetailsMetric m_metric = DetailsMetric::kSignal;
 };
 

@@ -1,11 +1,13 @@
 #include "shell/AppDelegate.h"
 
+#include "charts/TSNetworkDetailsView.h"
 #include "charts/TSSpectrumView.h"
 #include "foundation/Defaults.h"
 #include "foundation/Localized.h"
 #include "shell/ActivityIndicator.h"
 #include "shell/GraphTabs.h"
 #include "shell/IntervalMenu.h"
+#include "shell/NetworkDetailsPane.h"
 #include "shell/RecentDocumentsMenu.h"
 #include "shell/TSNetworksView.h"
 #include "shell/TSSideView.h"
@@ -74,6 +76,9 @@ void AppDelegate::connectParts(NotificationCenter& notifications)
     connect(&table, &TSNetworksView::didEndEditing, this, &AppDelegate::prepareAndReload);
     connect(&table, &TSNetworksView::columnDidChangeHiddenState, this,
             &AppDelegate::configureSpectrumLabels);
+    connect(&m_window.graphTabs().networkDetails().chart(),
+            &TSNetworkDetailsView::userDidPickNetwork, this,
+            &AppDelegate::handleUserDidPickNetwork);
 
     using Exchange = ExchangeCommands;
     connect(&m_window, &MainWindow::fileMenuWillShow, &m_exchange, &Exchange::validateMenuItems);
@@ -441,6 +446,12 @@ void AppDelegate::setReferenceTime(double time)
 void AppDelegate::setDisplayOnlyLastSeen(bool only)
 {
     m_window.graphTabs().spectrumView().setDisplayOnlyLastSeen(only);
+}
+
+void AppDelegate::handleUserDidPickNetwork(const QString& bssid)
+{
+    m_window.networksView().selectNetworks(
+        [&](const TSNetwork& network) { return network.bssid() == bssid; });
 }
 
 void AppDelegate::selectAssociatedNetworks()

@@ -75,6 +75,7 @@ private:
     void selectQuickFilter(QuickFilter filter);
     void onFilter(const QString& line);
     void handleFilterUsingKeys(std::int64_t threshold);
+    void handleUserDidPickNetwork(const QString& bssid);
     void setUpPipeline();
     void showFilteredNetworks();
     void saveDefaults();

@@ -187,7 +187,8 @@ TEST_F(NetworkDetailsViewTest, TellsTheSampleUnderTheMouse)
         show(network, c.metric);
         view.setUnits(c.units);
         c.isAlternate ? view.handleAltKeyDownNotification() : view.handleAltKeyUpNotification();
-        moveMouse({795, c.units == Units::kDBm ? 230.0 : 327.0}); // at its signal, whatever is shown
+        moveMouse(
+            {795, c.units == Units::kDBm ? 230.0 : 327.0}); // at its signal, whatever is shown
         EXPECT_EQ(bubble(), c.data);
         moveMouse({495, 30});
         EXPECT_EQ(bubble(), c.noData);
@@ -242,4 +243,36 @@ TEST_F(NetworkDetailsViewTest, ZoomsOutToEightHours)
     EXPECT_EQ(view.timescale(), 8 * 3600);
     view.magnifyWithMagnification(-1);
     EXPECT_EQ(view.timescale(), 300);
+}
+
+TEST_F(NetworkDetailsViewTest, ShowsOthersBesideTheNetworkAndPicksTheOneThatIsClicked)
+{
+    const auto network = chartNetwork(1, {{0, -50}});
+    const auto other = chartNetwork(2, {{0, -60}}); // on the same channel
+    view.setNetworks({other, network});
+    show(network, DetailsMetric::kSignal);
+    const auto all = texts();
+    EXPECT_EQ(std::ranges::count(all, "Channel 36"), 1);
+    EXPECT_EQ(std::ranges::count(all, "-50"), 2); // at the two ends of the row
+    EXPECT_EQ(std::ranges::count(all, "Net 1"), 1);
+
+    QStringList picked;
+    QObject::connect(&view, &TSNetworkDetailsView::userDidPickNetwork, &view,
+                     [&](const QString& bssid) { picked.append(bssid); });
+    const auto mouse = [this](QEvent::Type type, double x) {
+        const QPointF position(x, 200);
+        QMouseEvent event(type, position, position,
+                          type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton, {}, {});
+        QCoreApplication::sendEvent(&view, &event);
+    };
+    mouse(QEvent::MouseMove, 300); // over its own chart
+    mouse(QEvent::MouseButtonPress, 300);
+    EXPECT_THAT(picked, IsEmpty());
+    mouse(QEvent::MouseMove, 900); // over the second bar
+    EXPECT_EQ(std::ranges::count(texts(), "Net 2"), 1);
+    mouse(QEvent::MouseButtonPress, 900);
+    EXPECT_EQ(picked, QStringList{other->bssid()});
+
+    view.setNetworks({network});
+    EXPECT_EQ(std::ranges::count(texts(), "Channel 36"), 0);
 }
