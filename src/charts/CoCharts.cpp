@@ -8,7 +8,7 @@
 #include <QPainter>
 
 #include <algorithm>
-#include <ranges>
+#include <functional>
 #include <utility>
 
 namespace tessara {
@@ -26,7 +26,8 @@ const TSDataPoint& sampleOfBar(const TSNetwork& network, bool onlyLastSeen)
         return kNone;
     if (onlyLastSeen)
         return history.back();
-    const auto newest = std::ranges::find_if(std::views::reverse(history), &TSDataPoint::hasData);
+    const auto newest =
+        std::find_if(history.rbegin(), history.rend(), std::mem_fn(&TSDataPoint::hasData));
     return newest == history.rend() ? history.back() : *newest;
 }
 

@@ -10,7 +10,6 @@
 #include <QPainter>
 
 #include <algorithm>
-#include <ranges>
 #include <set>
 
 namespace tessara {
@@ -173,9 +172,9 @@ void TSSpectrumView::drawNetworks(QPainter& painter, const SpectrumBand& band) c
         drawNetwork(painter, band, network, emphasisOf(network, isAmongSelected));
     };
     // Weak networks lie over strong ones, which would hide them, and selected ones over all.
-    for (const NetworkPtr& network : std::views::reverse(networks())) {
-        if (!isHighlighted(*network))
-            draw(*network);
+    for (auto network = networks().rbegin(); network != networks().rend(); ++network) {
+        if (!isHighlighted(**network))
+            draw(**network);
     }
     for (const NetworkPtr& network : networks()) {
         if (isHighlighted(*network))
