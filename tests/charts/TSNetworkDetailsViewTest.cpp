@@ -216,6 +216,9 @@ TEST_F(NetworkDetailsViewTest, HoversOverTheNetworkThatIsShownWhicheverAreSelect
 {
     const NetworkPtr shown = chartNetwork(1, {{50, -60}});
     const NetworkPtr other = chartNetwork(2, {{50, -61}});
+    ScanDictionary elsewhere = other->network();
+    elsewhere.channelNumber = 40; // or it would stand beside the chart
+    other->setNetwork(elsewhere);
     const auto hovers = [this] {
         moveMouse({795, 230});
         return view.networks().size() == 2 && bubble() == "-60 dBm";
