@@ -5,8 +5,8 @@
 #include "model/ColumnRegistry.h"
 #include "model/SignalPercentage.h"
 #include "model/TSNetwork.h"
-#include "shell/ToolTipText.h"
 #include "shell/NetworksTableModel.h"
+#include "shell/ToolTipText.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
