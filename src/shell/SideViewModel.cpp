@@ -56,11 +56,11 @@ const TSSideViewItem& SideViewModel::itemAt(const QModelIndex& index) const
     return m_items[index.internalId() - 1].children[row];
 }
 
-void SideViewModel::setItems(std::vector<TSSideViewItem> items)
+void SideViewModel::setItems(const std::vector<TSSideViewItem>& items)
 {
     setCategories(items);
     for (std::size_t category = 0; category < items.size(); ++category)
-        setValues(static_cast<int>(category), std::move(items[category].children));
+        setValues(static_cast<int>(category), items[category].children);
 }
 
 /// The rows at the top: those that stay keep their values for now.
@@ -82,7 +82,7 @@ void SideViewModel::setCategories(const std::vector<TSSideViewItem>& items)
     }
 }
 
-void SideViewModel::setValues(int category, std::vector<TSSideViewItem> values)
+void SideViewModel::setValues(int category, const std::vector<TSSideViewItem>& values)
 {
     std::vector<TSSideViewItem>& shown = m_items[static_cast<std::size_t>(category)].children;
     const std::size_t before = shown.size();

@@ -18,7 +18,7 @@ public:
 
     explicit SideViewModel(QObject* parent = nullptr);
 
-    void setItems(std::vector<TSSideViewItem> items);
+    void setItems(const std::vector<TSSideViewItem>& items);
     const TSSideViewItem& itemAt(const QModelIndex& index) const;
 
     QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
@@ -31,7 +31,7 @@ public:
 
 private:
     void setCategories(const std::vector<TSSideViewItem>& items);
-    void setValues(int category, std::vector<TSSideViewItem> values);
+    void setValues(int category, const std::vector<TSSideViewItem>& values);
     void follow(const RowChanges& changes, int category, const std::vector<TSSideViewItem>& values);
     void rebuild(const RowChanges& changes, int category,
                  const std::vector<TSSideViewItem>& values);

@@ -32,12 +32,12 @@ TSSideView::TSSideView(QWidget* parent)
             [this](const QModelIndex& index) { setExpandedWithTitle(index, false); });
 }
 
-void TSSideView::setItems(std::vector<TSSideViewItem> items)
+void TSSideView::setItems(const std::vector<TSSideViewItem>& items)
 {
     const QModelIndex selected = selectionModel()->hasSelection() ? currentIndex() : QModelIndex();
     const QString title = selected.isValid() ? m_model.itemAt(selected).title : QString();
     m_isUpdating = true;
-    m_model.setItems(std::move(items));
+    m_model.setItems(items);
     m_isUpdating = false;
     setExpandedItems(m_expandedItems);
     if (!title.isEmpty())

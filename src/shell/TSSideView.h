@@ -15,7 +15,7 @@ class TSSideView final : public QTreeView {
 public:
     explicit TSSideView(QWidget* parent = nullptr);
 
-    void setItems(std::vector<TSSideViewItem> items);
+    void setItems(const std::vector<TSSideViewItem>& items);
     /// @param points size of the font of the rows
     void setFontSize(double points);
 
