@@ -23,7 +23,7 @@ public:
     /// The networks of the table.
     void setNetworks(const NetworkList& networks) override;
 
-    DetailsMetric metric() const { return m_metric; }
+    DetailsMetric detailsMetric() const { return m_metric; }
     void setMetric(DetailsMetric metric);
     bool willDrawSignal() const { return m_metric != DetailsMetric::kSNR; }
     bool willDrawNoise() const { return m_metric == DetailsMetric::kSignalAndNoise; }

@@ -159,7 +159,7 @@ void GraphTabs::saveDefaults() const
                       static_cast<qint64>(m_signalStrengthView->timescale()));
     defaults.setValue(DefaultKey::NetworkSignalStrengthViewTimescale,
                       static_cast<qint64>(m_networkDetails->chart().timescale()));
-    defaults.setValue(DefaultKey::Metric, static_cast<qint64>(m_networkDetails->metric()));
+    defaults.setValue(DefaultKey::Metric, static_cast<qint64>(m_networkDetails->selectedMetric()));
 }
 
 // Commands --------------------------------------------------------------------------------------

@@ -52,9 +52,9 @@ NetworkDetailsPane::NetworkDetailsPane(const Clock& clock, QWidget* parent)
     userDidSelectMetric(0);
 }
 
-int NetworkDetailsPane::metric() const
+int NetworkDetailsPane::selectedMetric() const
 {
-    return static_cast<int>(m_chart->metric());
+    return static_cast<int>(m_chart->detailsMetric());
 }
 
 void NetworkDetailsPane::userDidSelectMetric(int index)

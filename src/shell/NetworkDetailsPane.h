@@ -23,7 +23,7 @@ public:
     QActionGroup& metricItems() { return *m_metricItems; }
 
     /// The metric that is shown, counted as the setting `Metric` counts them.
-    int metric() const;
+    int selectedMetric() const;
 
 public Q_SLOTS:
     /// Shows a metric; one that there is not is as good as the first.

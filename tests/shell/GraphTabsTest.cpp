@@ -92,15 +92,15 @@ TEST_F(GraphTabsTest, SelectTheMetricByMenuAndPopUpAndKeepIt)
         Defaults::standard().setValue(DefaultKey::Metric, stored);
         tabs.loadDefaults();
         EXPECT_EQ(popUp.currentIndex(), used);
-        EXPECT_EQ(static_cast<int>(details.metric()), used);
+        EXPECT_EQ(static_cast<int>(details.detailsMetric()), used);
     }
     const QList<QAction*> items = tabs.networkDetails().metricItems().actions();
     items[2]->trigger();
-    EXPECT_EQ(details.metric(), DetailsMetric::kSNR);
+    EXPECT_EQ(details.detailsMetric(), DetailsMetric::kSNR);
     EXPECT_EQ(popUp.currentIndex(), 2);
     popUp.setFocus();
     QTest::keyClick(&popUp, Qt::Key_Up);
-    EXPECT_EQ(details.metric(), DetailsMetric::kSignalAndNoise);
+    EXPECT_EQ(details.detailsMetric(), DetailsMetric::kSignalAndNoise);
     EXPECT_TRUE(items[1]->isChecked());
     tabs.saveDefaults();
     EXPECT_EQ(Defaults::standard().integerForKey(DefaultKey::Metric), 1);
