@@ -30,6 +30,7 @@ protected:
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert(QStringLiteral("XDG_CONFIG_HOME"), folder.path());
         environment.insert(QStringLiteral("XDG_DATA_HOME"), folder.path());
+        environment.insert(QStringLiteral("XDG_CACHE_HOME"), folder.path());
         environment.insert(QStringLiteral("CLI"), QStringLiteral(TESSARA_CLI));
         environment.insert(QStringLiteral("RECORDING"), QStringLiteral(TESSARA_RECORDING));
         process.setProcessEnvironment(environment);

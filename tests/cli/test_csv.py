@@ -29,6 +29,7 @@ class CSV(unittest.TestCase):
 
     def run_cli(self, *words: str | Path) -> bytes:
         environment = os.environ | {"XDG_DATA_HOME": str(self.folder),
+                                    "XDG_CACHE_HOME": str(self.folder),
                                     "XDG_CONFIG_HOME": str(self.folder), "TZ": "UTC"}
         return subprocess.run([os.environ["TESSARA_CLI"], *words], env=environment, check=True,
                               stdout=subprocess.PIPE, timeout=60).stdout
