@@ -1,3 +1,4 @@
+#include "foundation/Utf8.h"
 #include "persistence/AnnotationsCSV.h"
 #include "persistence/PropertyList.h"
 
@@ -10,6 +11,11 @@ namespace {
 
 using Annotations = TSAnnotationsHelper::Annotations;
 
+QString textOf(QByteArrayView utf8)
+{
+    return textFromUtf8({utf8.data(), static_cast<std::size_t>(utf8.size())}).value_or(QString());
+}
+
 Annotations readBack(const QByteArray& list)
 {
     Annotations annotations;
@@ -17,7 +23,7 @@ Annotations readBack(const QByteArray& list)
     const bool isList = readTextDictionary(
         list, error,
         [&](QByteArrayView bssid, QByteArrayView note) {
-            annotations.insert(QString::fromUtf8(bssid), QString::fromUtf8(note));
+            annotations.insert(textOf(bssid), textOf(note));
         },
         kLongestOwnPropertyList);
     if (!isList)

@@ -2,6 +2,7 @@
 
 #include "foundation/Defaults.h"
 #include "foundation/Logging.h"
+#include "foundation/Utf8.h"
 #include "persistence/PropertyList.h"
 #include "persistence/WholeFile.h"
 
@@ -29,6 +30,12 @@ void setAside(const QString& path)
     while (!QFile::rename(path, QStringLiteral("%1.damaged-%2").arg(path).arg(number)) &&
            number < 100)
         ++number;
+}
+
+/// QString::fromUtf8 would take a byte order mark off the beginning of a note.
+QString textOf(QByteArrayView utf8)
+{
+    return textFromUtf8({utf8.data(), static_cast<std::size_t>(utf8.size())}).value_or(QString());
 }
 
 } // namespace
@@ -120,7 +127,7 @@ QString TSAnnotationsHelper::load()
     if (bytes && readTextDictionary(
                      *bytes, error,
                      [&](QByteArrayView bssid, QByteArrayView note) {
-                         annotations.insert(QString::fromUtf8(bssid), QString::fromUtf8(note));
+                         annotations.insert(textOf(bssid), textOf(note));
                      },
                      kLongestOwnPropertyList))
         set(std::move(annotations));
