@@ -2,6 +2,7 @@
 
 #include "charts/ChartNetworks.h"
 #include "charts/DetailsLayout.h"
+#include "charts/PaintedChart.h"
 #include "support/ManualClock.h"
 #include "support/QtPrinters.h"
 #include "support/RecordingPaintDevice.h"
@@ -36,21 +37,9 @@ protected:
         view.setNetwork(network);
     }
 
-    Painting painted()
-    {
-        RecordingPaintDevice device(view.size());
-        QPainter painter(&device);
-        view.paint(painter);
-        return device.painting();
-    }
+    Painting painted() { return paintingOf(view); }
 
-    std::vector<std::string> texts()
-    {
-        std::vector<std::string> texts;
-        for (const Painted& item : painted().texts())
-            texts.push_back(item.text.toStdString());
-        return texts;
-    }
+    std::vector<std::string> texts() { return textsOf(view); }
 
     /// What is painted of the samples, in its order: the lines and areas in the network's colour
     /// and the white areas of noise and veil, by their opacity and extent.

@@ -1,6 +1,7 @@
 #include "charts/TSSignalStrengthView.h"
 
 #include "charts/ChartNetworks.h"
+#include "charts/PaintedChart.h"
 #include "charts/RadioMerge.h"
 #include "filtering/TSNetworkCollection.h"
 #include "foundation/Directories.h"
@@ -52,21 +53,9 @@ protected:
         view.setReferenceTime(kReferenceTime);
     }
 
-    Painting painted()
-    {
-        RecordingPaintDevice device(view.size());
-        QPainter painter(&device);
-        view.paint(painter);
-        return device.painting();
-    }
+    Painting painted() { return paintingOf(view); }
 
-    std::vector<std::string> texts()
-    {
-        std::vector<std::string> texts;
-        for (const Painted& item : painted().texts())
-            texts.push_back(item.text.toStdString());
-        return texts;
-    }
+    std::vector<std::string> texts() { return textsOf(view); }
 
     /// The first text of a kind.
     static Painted textOf(const Painting& painting, const char* text)

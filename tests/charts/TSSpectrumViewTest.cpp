@@ -1,6 +1,7 @@
 #include "charts/TSSpectrumView.h"
 
 #include "charts/ChartNetworks.h"
+#include "charts/PaintedChart.h"
 #include "charts/TSThemeHelper.h"
 #include "filtering/TSNetworkCollection.h"
 #include "foundation/Defaults.h"
@@ -39,22 +40,9 @@ protected:
         Directories::installed().annotations = nullptr;
     }
 
-    Painting painted()
-    {
-        RecordingPaintDevice device(view.size());
-        QPainter painter(&device);
-        view.paint(painter);
-        painter.end();
-        return device.painting();
-    }
+    Painting painted() { return paintingOf(view); }
 
-    std::vector<std::string> texts()
-    {
-        std::vector<std::string> texts;
-        for (const Painted& item : painted().texts())
-            texts.push_back(item.text.toStdString());
-        return texts;
-    }
+    std::vector<std::string> texts() { return textsOf(view); }
 
     /// The colours in which networks are outlined, in the order of painting.
     std::vector<QColor> outlines()
