@@ -1,4 +1,5 @@
 #include "cli/Command.h"
+#include "foundation/HarmlessText.h"
 
 #include <QTextStream>
 
@@ -23,7 +24,8 @@ ExitStatus finishOutput()
 
 void complain(const QString& message)
 {
-    QTextStream(stderr) << "tessara-cli: " << message << Qt::endl;
+    // A path in it may hold anything.
+    QTextStream(stderr) << "tessara-cli: " << harmless(message) << Qt::endl;
 }
 
 ExitStatus wrongUsage(const QString& message)

@@ -27,12 +27,16 @@ QString writeScans(const QString& input, double sweep, const QString& output)
     if (!scans.reader)
         return scans.error;
     RecordingWriter writer(output);
+    bool isEmpty = true;
     while (const auto scan = scans.reader->next()) {
+        isEmpty = false;
         if (!writer.write(*scan))
             break;
     }
     if (!scans.reader->error().isEmpty())
         return scans.reader->error();
+    if (isEmpty)
+        return QStringLiteral("%1 holds no scans").arg(input);
     writer.finish();
     return writer.error();
 }

@@ -11,7 +11,7 @@ namespace tessara {
 
 namespace {
 
-constexpr qint64 kLongestImport = 256 << 20; // bytes; it takes three times as much memory
+constexpr qint64 kLongestImport = 128 << 20; // bytes; it takes three times as much memory
 
 QString progressMessage(const QString& verb, const QString& path)
 {

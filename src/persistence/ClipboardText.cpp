@@ -33,7 +33,7 @@ QString textOfRows(const std::vector<const NetworkRow*>& rows,
     for (const NetworkRow* row : rows) {
         QStringList lines;
         for (const Column* column : columns) {
-            const QString value = valueOf(*row, *column, context);
+            const QString value = valueOf(*row, *column, context); // an empty cell has none
             if (!value.isEmpty())
                 lines.append(QStringLiteral("%1: %2").arg(localized(column->title), value));
         }

@@ -24,6 +24,8 @@ inline constexpr char kTime[] = "NS.time";
 inline constexpr char kColorSpace[] = "NSColorSpace";
 inline constexpr char kRGB[] = "NSRGB";     ///< "0.5 0.25 1", or with alpha behind it, as bytes
 inline constexpr char kWhite[] = "NSWhite"; ///< "0.5" or "0.5 1" likewise
+inline constexpr char kCMYK[] = "NSCMYK";   ///< "0 0.5 1 0" likewise
+inline constexpr char kColor[] = "NSColor"; ///< what a colour of a catalogue stands for
 
 /// 2001-01-01 00:00 UTC, from which dates count, in seconds since 1970.
 inline constexpr double kReferenceDate = 978307200;

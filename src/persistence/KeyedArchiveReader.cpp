@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <vector>
 
 namespace tessara {
 
@@ -33,6 +32,23 @@ QString textFromUtf16(Bytes units)
     qFromBigEndian<char16_t>(units.data(), text.size(), text.data());
     return text;
 }
+
+/// How the components of a colour are written, and the colour that they and the alpha give.
+struct ColorForm {
+    const char* key;
+    std::size_t count;
+    QColor (*colorOf)(const std::vector<float>& numbers);
+};
+constexpr ColorForm kColorForms[] = {
+    {KeyedArchive::kRGB, 3,
+     [](const std::vector<float>& n) { return QColor::fromRgbF(n[0], n[1], n[2], n[3]); }},
+    {KeyedArchive::kWhite, 1,
+     [](const std::vector<float>& n) { return QColor::fromRgbF(n[0], n[0], n[0], n[1]); }},
+    {KeyedArchive::kCMYK, 4,
+     [](const std::vector<float>& n) {
+         return QColor::fromCmykF(n[0], n[1], n[2], n[3], n[4]).toRgb();
+     }},
+};
 
 } // namespace
 
@@ -299,18 +315,28 @@ std::optional<QColor> ArchivedValue::color() const
         refuse("is no colour");
         return std::nullopt;
     }
-    const ArchivedValue rgb = member(KeyedArchive::kRGB);
-    const ArchivedValue white = member(KeyedArchive::kWhite);
-    if (!rgb.isAbsent())
-        return colorOf(rgb, 3);
-    return white.isAbsent() ? std::nullopt : colorOf(white, 1);
+    const ArchivedValue named = member(KeyedArchive::kColor);
+    return named.isAbsent() ? colorOfComponents() : named.colorOfComponents();
+}
+
+std::optional<QColor> ArchivedValue::colorOfComponents() const
+{
+    for (const auto& [key, count, colorOf] : kColorForms) {
+        const ArchivedValue bytes = member(key);
+        if (bytes.isAbsent())
+            continue;
+        const auto numbers = components(bytes, count);
+        return numbers ? std::optional(colorOf(*numbers)) : std::nullopt;
+    }
+    return std::nullopt;
 }
 
 /// @param count of the components, without the alpha that may follow
-std::optional<QColor> ArchivedValue::colorOf(const ArchivedValue& components,
-                                             std::size_t count) const
+/// @return them and the alpha
+std::optional<std::vector<float>> ArchivedValue::components(const ArchivedValue& bytes,
+                                                            std::size_t count) const
 {
-    QByteArray text = components.data().value_or(QByteArray());
+    QByteArray text = bytes.data().value_or(QByteArray());
     text.replace('\0', ' '); // it ends in one
     std::vector<float> numbers;
     for (const QByteArray& word : text.simplified().split(' ')) {
@@ -323,9 +349,8 @@ std::optional<QColor> ArchivedValue::colorOf(const ArchivedValue& components,
         refuse("is no colour");
         return std::nullopt;
     }
-    const float alpha = numbers.size() > count ? numbers.back() : 1.0F;
-    const std::size_t last = count - 1;
-    return QColor::fromRgbF(numbers[0], numbers[last / 2], numbers[last], alpha);
+    numbers.resize(count + 1, 1.0F);
+    return numbers;
 }
 
 BinaryPlistReader::Object ArchivedValue::collection(const char* name, const char* kind) const

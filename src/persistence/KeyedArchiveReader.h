@@ -11,6 +11,7 @@
 #include <cstdint>
 #include <limits>
 #include <optional>
+#include <vector>
 
 namespace tessara {
 
@@ -59,7 +60,8 @@ public:
     std::optional<QByteArray> data() const;
     /// Seconds since 1970, between the years 1 and 9999.
     std::optional<double> date() const;
-    /// From an `NSColor` by red, green and blue, or by white; absent for other colours.
+    /// From an `NSColor` by red, green and blue, by white, by printing inks, or of a catalogue;
+    /// absent for other colours.
     std::optional<QColor> color() const;
 
     /// Elements of an array; none if absent.
@@ -83,7 +85,9 @@ private:
     ArchivedValue member(const char* name) const;
     std::optional<std::uint64_t> placeOf(ArchiveKey& key) const;
     BinaryPlistReader::Object collection(const char* name, const char* kind) const;
-    std::optional<QColor> colorOf(const ArchivedValue& components, std::size_t count) const;
+    std::optional<QColor> colorOfComponents() const;
+    std::optional<std::vector<float>> components(const ArchivedValue& bytes,
+                                                 std::size_t count) const;
     double real() const;
     void refuse(const char* what) const;
 

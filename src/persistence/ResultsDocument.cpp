@@ -7,6 +7,8 @@
 
 #include <QFileInfo>
 
+#include <limits>
+
 namespace tessara {
 
 namespace {
@@ -28,7 +30,10 @@ ResultsDocument::ResultsDocument(ShownResults& results, UserPrompt& prompt, Cloc
 ResultsDocument::~ResultsDocument()
 {
     if (m_isOpenCancelled)
-        *m_isOpenCancelled = true; // but what is being saved is still saved
+        *m_isOpenCancelled = true;
+    // But what is being saved is still saved.
+    if (m_save && m_save->copyRecords(std::numeric_limits<std::size_t>::max()))
+        m_save->write([](double) { return true; });
 }
 
 // Questions -------------------------------------------------------------------------------------
@@ -137,24 +142,27 @@ void ResultsDocument::runInBackground(const Job& job, Work work)
     });
 }
 
-/// Takes the records as they are, some at a time, so that the window does not stand still. They do
-/// not change meanwhile: the scan has been stopped, and another one has records of its own.
-void ResultsDocument::copyRecords(const NetworkList& networks,
-                                  const std::shared_ptr<ResultsSnapshot>& copy,
-                                  const Action& didCopy)
+bool ResultsDocument::Save::copyRecords(std::size_t samplesAtMost)
 {
-    constexpr std::size_t kSamplesAtOnce = 200'000; // a few milliseconds
     std::size_t samples = 0;
-    while (copy->networks.size() < networks.size() && samples < kSamplesAtOnce) {
+    while (copy->networks.size() < networks.size() && samples < samplesAtMost) {
         copy->networks.push_back(networks[copy->networks.size()]->snapshot());
         samples += copy->networks.back().dataPoints.size();
     }
-    if (copy->networks.size() == networks.size()) {
-        didCopy();
+    return copy->networks.size() == networks.size();
+}
+
+/// Takes the records as they are, some at a time, so that the window does not stand still. They do
+/// not change meanwhile: the scan has been stopped, and another one has records of its own.
+void ResultsDocument::copySomeRecords()
+{
+    constexpr std::size_t kSamplesAtOnce = 200'000; // a few milliseconds
+    if (!m_save->copyRecords(kSamplesAtOnce)) {
+        QMetaObject::invokeMethod(this, &ResultsDocument::copySomeRecords, Qt::QueuedConnection);
         return;
     }
-    QMetaObject::invokeMethod(
-        this, [=, this] { copyRecords(networks, copy, didCopy); }, Qt::QueuedConnection);
+    const auto save = std::move(m_save);
+    runInBackground(save->job, std::move(save->write));
 }
 
 void ResultsDocument::doSaveWithFileInBackground(const QString& path, Action didSave)
@@ -164,10 +172,12 @@ void ResultsDocument::doSaveWithFileInBackground(const QString& path, Action did
     const Job job = beginJob(localized("Saving"), path);
     const auto copy = std::make_shared<ResultsSnapshot>();
     copy->lastScanTime = m_results.lastScanTime();
-    const Work work = [this, path, copy,
-                       didSave = std::move(didSave)](const WorkProgress& progress) {
+    const Work write = [this, path, copy,
+                        didSave = std::move(didSave)](const WorkProgress& progress) {
         QString error;
         const bool isSaved = writeResultsFile(path, *copy, progress, error);
+        if (!error.isEmpty()) // the user may have gone before an alert comes
+            qCWarning(lcPersistence).noquote() << path + QStringLiteral(": ") + error;
         return Action([this, path, didSave, isSaved, error] {
             if (isSaved) {
                 didSaveFile(path);
@@ -177,7 +187,8 @@ void ResultsDocument::doSaveWithFileInBackground(const QString& path, Action did
             }
         });
     };
-    copyRecords(m_results.networks(), copy, [this, job, work] { runInBackground(job, work); });
+    m_save = std::make_unique<Save>(Save{m_results.networks(), copy, job, write});
+    copySomeRecords();
 }
 
 void ResultsDocument::didSaveFile(const QString& path)

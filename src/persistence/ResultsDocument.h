@@ -67,6 +67,16 @@ private:
     };
     /// Gives what is left to do on the main thread when the work has ended.
     using Work = std::function<Action(const WorkProgress& progress)>;
+    /// A save whose records are being copied.
+    struct Save {
+        NetworkList networks;
+        std::shared_ptr<ResultsSnapshot> copy;
+        Job job;
+        Work write;
+
+        /// @return whether all of them are there
+        bool copyRecords(std::size_t samplesAtMost);
+    };
 
     void showSaveAlertIfNeeded(UserPrompt::Answer answer);
     void showSavePanel(UserPrompt::FileAnswer answer);
@@ -77,8 +87,7 @@ private:
     void didOpenFile(const QString& path, const SavedResults& results);
     Job beginJob(const QString& message, const QString& path);
     void runInBackground(const Job& job, Work work);
-    void copyRecords(const NetworkList& networks, const std::shared_ptr<ResultsSnapshot>& copy,
-                     const Action& didCopy);
+    void copySomeRecords();
     void setTitle(const QString& path);
     void showError(const QString& message, const QString& path, const QString& reason);
 
@@ -87,6 +96,7 @@ private:
     Clock& m_clock;
     QString m_title;
     bool m_isWorking = false;
+    std::unique_ptr<Save> m_save;                         ///< until its work begins
     std::shared_ptr<std::atomic<bool>> m_isOpenCancelled; ///< of the latest one, if any
     WorkerThreads m_workers; // last: joined while all of the above still stands
 };

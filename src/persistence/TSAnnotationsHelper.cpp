@@ -98,7 +98,12 @@ std::optional<QString> TSAnnotationsHelper::annotationsFor(const QString& bssid)
 void TSAnnotationsHelper::setAnnotations(const QString& bssid, const QString& note)
 {
     setAnnotationsForNetwork(bssid, note);
-    saveToDisk();
+    if (m_isSaveDue.exchange(true))
+        return; // the save that has yet to begin takes this note with it
+    m_saves.start([this] {
+        m_isSaveDue = false;
+        saveToDisk();
+    });
 }
 
 // The file --------------------------------------------------------------------------------------
@@ -141,7 +146,10 @@ bool TSAnnotationsHelper::saveToDisk() const
     const std::scoped_lock lock(m_fileLock);
     if (!QDir().mkpath(QFileInfo(m_path).path()))
         return false;
-    const QString error = writeWholeFile(m_path, textDictionary(annotations()));
+    const QByteArray list = textDictionary(annotations());
+    const QString error = list.size() <= kLongestOwnPropertyList
+                              ? writeWholeFile(m_path, list)
+                              : m_path + QLatin1String(": the notes are too long for one file");
     if (!error.isEmpty())
         qCWarning(lcPersistence).noquote() << "Failed to save annotations to:" << error;
     return error.isEmpty();

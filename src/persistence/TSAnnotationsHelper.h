@@ -1,6 +1,7 @@
 #pragma once
 
 #include "foundation/Directories.h"
+#include "foundation/WorkerThreads.h"
 
 #include <QHash>
 #include <QString>
@@ -11,7 +12,8 @@
 namespace tessara {
 
 /// The user's notes on networks, by BSSID as `TSNetwork` gives it: the one store for all scans and
-/// runs, a file "annotations.plist". Every operation may be called on any thread.
+/// runs, a file "annotations.plist". Every operation that does not say otherwise may be called on
+/// any thread.
 class TSAnnotationsHelper final : public AnnotationsDirectory {
 public:
     using Annotations = QHash<QString, QString>; ///< notes by BSSID
@@ -38,6 +40,7 @@ public:
     bool saveToDisk() const;
 
     std::optional<QString> annotationsFor(const QString& bssid) const override;
+    /// Main thread only. The file follows on a thread of its own.
     void setAnnotations(const QString& bssid, const QString& note) override;
 
 private:
@@ -47,6 +50,8 @@ private:
     mutable std::mutex m_lock; ///< of the notes
     Annotations m_annotations;
     mutable std::mutex m_fileLock; ///< what is saved last is the newest
+    std::atomic<bool> m_isSaveDue = false;
+    WorkerThreads m_saves; // last: joined while all of the above still stands
 };
 
 } // namespace tessara

@@ -72,9 +72,13 @@ std::optional<std::int64_t> thresholdOf(const QKeyEvent& event)
 }
 
 /// The one file of a drag, if it is named like a results file; in what case does not matter here.
-std::optional<QString> resultsFileOf(const QMimeData& data)
+std::optional<QString> fileOfDrag(const QDropEvent& drag)
 {
-    const QList<QUrl> urls = data.urls();
+    // A chart on its way out is not asked for its file: that would write one. And a window that
+    // waits for an answer takes nothing else.
+    if (drag.source() || QApplication::activeModalWidget())
+        return std::nullopt;
+    const QList<QUrl> urls = drag.mimeData()->urls();
     if (urls.size() != 1 || !urls[0].isLocalFile())
         return std::nullopt;
     const QString path = urls[0].toLocalFile();
@@ -397,8 +401,7 @@ void MainWindow::dragEnterEvent(QDragEnterEvent* event)
 
 void MainWindow::dragMoveEvent(QDragMoveEvent* event)
 {
-    // A chart on its way out is not asked for its file: that would write one.
-    if (event->source() || !resultsFileOf(*event->mimeData()))
+    if (!fileOfDrag(*event))
         return;
     event->setDropAction(Qt::CopyAction);
     event->accept();
@@ -406,7 +409,7 @@ void MainWindow::dragMoveEvent(QDragMoveEvent* event)
 
 void MainWindow::dropEvent(QDropEvent* event)
 {
-    const auto file = event->source() ? std::nullopt : resultsFileOf(*event->mimeData());
+    const auto file = fileOfDrag(*event);
     if (!file)
         return;
     event->setDropAction(Qt::CopyAction);

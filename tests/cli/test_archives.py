@@ -166,8 +166,8 @@ class Reading(ArchiveTest):
         self.assertEqual(self.written(a.results(network)), expected)
 
     def test_reads_colours(self) -> None:
-        def written_as(**members: Any) -> str:
-            a = Archive()
+        def written_as(a: Archive | None = None, **members: Any) -> str:
+            a = a or Archive()
             color = a.object("NSColor NSObject", **members)
             result = self.written(a.results(a.network(color=color)))
             numbers = result["networks"][0]["color"]["NSRGB"].rstrip(b"\0").split()
@@ -176,6 +176,10 @@ class Reading(ArchiveTest):
         self.assertEqual(written_as(NSColorSpace=2, NSRGB=b"0 0.25 1 0.5"), "0 0.25 1 0.5")
         self.assertEqual(written_as(NSColorSpace=3, NSWhite=b"0.5\0"), "0.5 0.5 0.5")
         self.assertEqual(written_as(NSColorSpace=4, NSWhite=b"1 0.25"), "1 1 1 0.25")
+        self.assertEqual(written_as(NSColorSpace=5, NSCMYK=b"0 0.5 1 0.5 1"), "0.5 0.25 0")
+        a = Archive()
+        named = a.rgb(b"0 1 0.5")
+        self.assertEqual(written_as(a, NSColorSpace=6, NSColor=named), "0 1 0.5")
 
     def test_keeps_samples_as_they_are(self) -> None:
         a = Archive()

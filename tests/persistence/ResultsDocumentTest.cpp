@@ -276,3 +276,24 @@ TEST_F(ResultsDocumentTest, MovesTheProgressAndEndsWhenTheUserCancels)
     EXPECT_THAT(user.alerts, ElementsAre("Do you want to save the current results?",
                                          "Do you want to save the current results?"));
 }
+
+TEST_F(ResultsDocumentTest, SavesWholeWhatTheEndOfTheProgramInterrupts)
+{
+    constexpr int kSamples = 10'000; // of all records together more than are copied at once
+    shown.list = scannedNetworks(30);
+    for (const NetworkPtr& network : shown.list) {
+        for (int i = 0; i < kSamples; ++i)
+            network->addDataPoint({-60, -92, -1, -1, 1.7e9 + i});
+    }
+    auto ending = std::make_unique<ResultsDocument>(shown, user, clock);
+    user.path = inFolder("a.tessara");
+    ending->onFileSaveAs();
+    ending.reset();
+
+    ResultsFileError error;
+    const auto saved = readResultsFile(
+        user.path, 0, [](double) { return true; }, error);
+    ASSERT_TRUE(saved.has_value()) << error.format.toStdString();
+    ASSERT_EQ(saved->networks.size(), 30U);
+    EXPECT_GE(saved->networks.back()->dataPoints().size(), static_cast<std::size_t>(kSamples));
+}

@@ -22,32 +22,33 @@ protected:
     void SetUp() override { Defaults::standard().attach(nullptr); }
     void TearDown() override { Directories::installed() = {}; }
 
-    /// What a new run of the program has of the notes.
-    TSAnnotationsHelper::Annotations afterRestart() const
+    /// What a new run of the program has of the notes. The old one waits for its file to be
+    /// written when it ends.
+    TSAnnotationsHelper::Annotations afterRestart()
     {
-        TSAnnotationsHelper helper(path);
-        helper.readFromDisk();
-        return helper.annotations();
+        helper.emplace(path);
+        helper->readFromDisk();
+        return helper->annotations();
     }
 
     QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("data/annotations.plist"));
-    TSAnnotationsHelper helper{path};
+    std::optional<TSAnnotationsHelper> helper{path};
 };
 
 } // namespace
 
 TEST_F(TSAnnotationsHelperTest, ANoteOnANetworkOutlivesTheRun)
 {
-    Directories::installed().annotations = &helper;
+    Directories::installed().annotations = &*helper;
     ScanDictionary dictionary;
     dictionary.bssid = QStringLiteral("0:11:22:33:44:55");
     TSNetwork network(dictionary, 0);
     EXPECT_FALSE(network.hasAnnotations());
     network.setAnnotations(QStringLiteral(" \troof, \"east\"\n\u00a0"));
     EXPECT_EQ(network.annotations(), QStringLiteral("roof, \"east\""));
-    EXPECT_EQ(afterRestart(), helper.annotations());
-    EXPECT_EQ(afterRestart().value(kBSSID), network.annotations());
+    EXPECT_EQ(afterRestart(),
+              (TSAnnotationsHelper::Annotations{{kBSSID, QStringLiteral("roof, \"east\"")}}));
 
     network.setAnnotations(QStringLiteral(" \n"));
     EXPECT_FALSE(network.hasAnnotations());
@@ -63,17 +64,17 @@ TEST_F(TSAnnotationsHelperTest, NoTextOfANoteDamagesTheFile)
         {u"bell\u0007 \uffff null\u0001.", u"bell\ufffd \ufffd null\ufffd."},
     };
     for (const auto& [note, stored] : notes) {
-        helper.setAnnotations(kBSSID, QString::fromUtf16(note));
+        helper->setAnnotations(kBSSID, QString::fromUtf16(note));
         EXPECT_EQ(afterRestart().value(kBSSID), QString::fromUtf16(stored));
     }
     const char16_t torn[] = {u'x', 0xd800, u'y', 0};
-    helper.setAnnotations(kOther, QString::fromUtf16(torn));
+    helper->setAnnotations(kOther, QString::fromUtf16(torn));
     EXPECT_EQ(afterRestart().size(), 2);
 }
 
 TEST_F(TSAnnotationsHelperTest, MovesTheNotesOfAnEarlierVersionOnce)
 {
-    helper.setAnnotations(kOther, QStringLiteral("in the file"));
+    helper->setAnnotations(kOther, QStringLiteral("in the file"));
     Defaults& defaults = Defaults::standard();
     const QVariantMap legacy{{kBSSID, QStringLiteral("in the settings")}};
     defaults.setValue(DefaultKey::Annotations, legacy);
@@ -93,14 +94,13 @@ TEST_F(TSAnnotationsHelperTest, MovesTheNotesOfAnEarlierVersionOnce)
 
 TEST_F(TSAnnotationsHelperTest, ADamagedFileIsKeptAside)
 {
-    helper.setAnnotations(kBSSID, QStringLiteral("old"));
+    helper->setAnnotations(kBSSID, QStringLiteral("old"));
+    helper.reset();
     const QByteArray damaged = contentsOf(path).chopped(12);
     for (int round = 1; round <= 2; ++round) {
         writeFile(path, damaged);
-        TSAnnotationsHelper next(path);
-        next.readFromDisk();
-        EXPECT_TRUE(next.annotations().isEmpty());
-        next.setAnnotations(kOther, QStringLiteral("new"));
+        EXPECT_TRUE(afterRestart().isEmpty());
+        helper->setAnnotations(kOther, QStringLiteral("new"));
         EXPECT_EQ(contentsOf(path + QStringLiteral(".damaged-%1").arg(round)), damaged);
         EXPECT_EQ(afterRestart().size(), 1);
     }
@@ -108,8 +108,9 @@ TEST_F(TSAnnotationsHelperTest, ADamagedFileIsKeptAside)
 
 TEST_F(TSAnnotationsHelperTest, AFileThatIsAskedForMustBeOne)
 {
-    EXPECT_TRUE(helper.load().contains(path)) << "it is missing";
-    helper.setAnnotations(kBSSID, QStringLiteral("old"));
+    EXPECT_TRUE(helper->load().contains(path)) << "it is missing";
+    helper->setAnnotations(kBSSID, QStringLiteral("old"));
+    helper.reset();
     const QByteArray whole = contentsOf(path);
     for (const QByteArray& bytes : {QByteArray(), QByteArray("x"), whole.chopped(12)}) {
         writeFile(path, bytes);
