@@ -31,6 +31,11 @@ NetworksInput readNetworks(const QString& path, double sweepSeconds)
 {
     if (isResultsFileName(path))
         return readResults(path);
+    const QString ending = u'.' + QStringView(kResultsExtension).toString();
+    if (path.endsWith(ending, Qt::CaseInsensitive)) {
+        const QString error = QStringLiteral("%1: a results file ends in %2, in lower case");
+        return {{}, 0, false, error.arg(path, ending)};
+    }
     const ScanInput input = openScanInput(path, sweepSeconds);
     if (!input.reader)
         return {{}, 0, false, input.error};

@@ -11,9 +11,10 @@ WorkerThreads::~WorkerThreads()
 void WorkerThreads::start(std::function<void()> body)
 {
     m_workers.remove_if([](Worker& worker) {
-        if (worker.hasEnded)
+        const bool hasEnded = worker.hasEnded; // read once: it may end at any moment
+        if (hasEnded)
             worker.thread.join();
-        return worker.hasEnded.load();
+        return hasEnded;
     });
     Worker& worker = m_workers.emplace_back();
     worker.thread = std::thread([&worker, body = std::move(body)] {

@@ -289,8 +289,8 @@ std::optional<QByteArray> ArchivedValue::data() const
 
 std::optional<double> ArchivedValue::date() const
 {
-    constexpr double kFirst = -62135596800; // the year 1
-    constexpr double kLast = 253402300799;  // the end of the year 9999
+    constexpr double kLast = 253402300799; // the end of the year 9999
+    constexpr double kFirst = -kLast;      // as recordings have it
     if (isAbsent())
         return std::nullopt;
     const ArchivedValue time = m_object.kind == Kind::kDate ? *this : member(KeyedArchive::kTime);

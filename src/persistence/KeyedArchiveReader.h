@@ -58,7 +58,7 @@ public:
     bool boolean() const { return integer() != 0; }
     std::optional<QString> string() const;
     std::optional<QByteArray> data() const;
-    /// Seconds since 1970, between the years 1 and 9999.
+    /// Seconds since 1970, as far from it as the year 9999 at the most.
     std::optional<double> date() const;
     /// From an `NSColor` by red, green and blue, by white, by printing inks, or of a catalogue;
     /// absent for other colours.

@@ -8,6 +8,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QLockFile>
 #include <QStandardPaths>
 
 namespace tessara {
@@ -21,6 +22,18 @@ TSAnnotationsHelper::Annotations legacyAnnotations()
     for (auto each = stored.begin(); each != stored.end(); ++each)
         annotations.insert(each.key(), each.value().toString());
     return annotations;
+}
+
+/// Makes changes, in which an empty note removes the entry.
+void apply(const TSAnnotationsHelper::Annotations& changes,
+           TSAnnotationsHelper::Annotations& annotations)
+{
+    for (auto each = changes.begin(); each != changes.end(); ++each) {
+        if (each->isEmpty())
+            annotations.remove(each.key());
+        else
+            annotations.insert(each.key(), *each);
+    }
 }
 
 /// Renames a file that the next save would write over.
@@ -67,12 +80,6 @@ TSAnnotationsHelper::Annotations TSAnnotationsHelper::annotations() const
     return m_annotations;
 }
 
-void TSAnnotationsHelper::set(Annotations annotations)
-{
-    const std::scoped_lock lock(m_lock);
-    m_annotations = std::move(annotations);
-}
-
 std::optional<QString> TSAnnotationsHelper::annotationsForNetwork(const QString& bssid) const
 {
     const std::scoped_lock lock(m_lock);
@@ -82,12 +89,10 @@ std::optional<QString> TSAnnotationsHelper::annotationsForNetwork(const QString&
 
 void TSAnnotationsHelper::setAnnotationsForNetwork(const QString& bssid, const QString& annotations)
 {
-    const QString note = annotations.trimmed();
+    const Annotations change{{bssid, annotations.trimmed()}};
     const std::scoped_lock lock(m_lock);
-    if (note.isEmpty())
-        m_annotations.remove(bssid);
-    else
-        m_annotations.insert(bssid, note);
+    apply(change, m_annotations);
+    m_changed.insert(change);
 }
 
 std::optional<QString> TSAnnotationsHelper::annotationsFor(const QString& bssid) const
@@ -111,7 +116,8 @@ void TSAnnotationsHelper::setAnnotations(const QString& bssid, const QString& no
 void TSAnnotationsHelper::readFromDisk()
 {
     if (const Annotations legacy = legacyAnnotations(); !legacy.isEmpty()) {
-        set(legacy);
+        m_annotations = m_changed = legacy;
+        m_replacesFile = true;
         if (saveToDisk()) // until then the settings are the one place where they are
             Defaults::standard().remove(DefaultKey::Annotations);
         return;
@@ -127,32 +133,91 @@ void TSAnnotationsHelper::readFromDisk()
 QString TSAnnotationsHelper::load()
 {
     QString error;
-    const auto bytes = readWholeFile(m_path, kLongestOwnPropertyList, error);
-    Annotations annotations;
-    if (bytes && readTextDictionary(
-                     *bytes, error,
-                     [&](QByteArrayView bssid, QByteArrayView note) {
-                         annotations.insert(textOf(bssid), textOf(note));
-                     },
-                     kLongestOwnPropertyList))
-        set(std::move(annotations));
-    else if (bytes)
-        error.prepend(m_path + QLatin1String(": "));
+    auto annotations = read(error);
+    const std::scoped_lock lock(m_lock);
+    if (annotations)
+        m_annotations = *std::move(annotations);
     return error;
 }
 
-bool TSAnnotationsHelper::saveToDisk() const
+std::optional<TSAnnotationsHelper::Annotations> TSAnnotationsHelper::read(QString& error) const
+{
+    const auto bytes = readWholeFile(m_path, kLongestOwnPropertyList, error);
+    if (!bytes)
+        return std::nullopt;
+    Annotations annotations;
+    if (readTextDictionary(
+            *bytes, error,
+            [&](QByteArrayView bssid, QByteArrayView note) {
+                annotations.insert(textOf(bssid), textOf(note));
+            },
+            kLongestOwnPropertyList))
+        return annotations;
+    error.prepend(m_path + QLatin1String(": "));
+    return std::nullopt;
+}
+
+TSAnnotationsHelper::Annotations TSAnnotationsHelper::takeChanged()
+{
+    const std::scoped_lock lock(m_lock);
+    return std::exchange(m_changed, {});
+}
+
+void TSAnnotationsHelper::giveBackChanged(const Annotations& changed)
+{
+    const std::scoped_lock lock(m_lock);
+    Annotations all = changed;
+    all.insert(m_changed); // the newer ones
+    m_changed = all;
+}
+
+/// What the file is to hold. Another window may have written its notes since this one read it.
+TSAnnotationsHelper::Annotations
+TSAnnotationsHelper::mergedWithFile(const Annotations& changed) const
+{
+    if (m_replacesFile || !QFileInfo::exists(m_path))
+        return annotations();
+    QString error;
+    auto merged = read(error);
+    if (!merged) {
+        qCWarning(lcPersistence).noquote() << error;
+        setAside(m_path);
+        return annotations();
+    }
+    apply(changed, *merged);
+    return *std::move(merged);
+}
+
+bool TSAnnotationsHelper::saveToDisk()
 {
     const std::scoped_lock lock(m_fileLock);
-    if (!QDir().mkpath(QFileInfo(m_path).path()))
+    const Annotations changed = takeChanged();
+    if (changed.isEmpty())
+        return true;
+    if (!QDir().mkpath(QFileInfo(m_path).path())) {
+        giveBackChanged(changed);
         return false;
-    const QByteArray list = textDictionary(annotations());
+    }
+    // Among windows. One that holds it for so long is in trouble, and the file is replaced whole.
+    constexpr int kPatience = 5000; // milliseconds
+    QLockFile amongWindows(m_path + QLatin1String(".lock"));
+    amongWindows.tryLock(kPatience);
+
+    const Annotations merged = mergedWithFile(changed);
+    const QByteArray list = textDictionary(merged);
     const QString error = list.size() <= kLongestOwnPropertyList
                               ? writeWholeFile(m_path, list)
                               : m_path + QLatin1String(": the notes are too long for one file");
-    if (!error.isEmpty())
+    if (!error.isEmpty()) {
+        giveBackChanged(changed);
         qCWarning(lcPersistence).noquote() << "Failed to save annotations to:" << error;
-    return error.isEmpty();
+        return false;
+    }
+    m_replacesFile = false;
+    const std::scoped_lock notesLock(m_lock);
+    m_annotations = merged;
+    apply(m_changed, m_annotations); // what has changed meanwhile
+    return true;
 }
 
 } // namespace tessara

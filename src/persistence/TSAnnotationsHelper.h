@@ -6,6 +6,7 @@
 #include <QHash>
 #include <QString>
 
+#include <atomic>
 #include <mutex>
 #include <optional>
 
@@ -36,20 +37,26 @@ public:
     void readFromDisk();
     /// Takes the notes of the file. @return what is wrong with it, in one line, or empty
     QString load();
-    /// Replaces the file. A failure is one line in the log. @return whether the file is there
-    bool saveToDisk() const;
+    /// Writes what has changed here into the file, beside what other windows have written into it.
+    /// A failure is one line in the log. @return whether nothing is left to be written
+    bool saveToDisk();
 
     std::optional<QString> annotationsFor(const QString& bssid) const override;
     /// Main thread only. The file follows on a thread of its own.
     void setAnnotations(const QString& bssid, const QString& note) override;
 
 private:
-    void set(Annotations annotations);
+    std::optional<Annotations> read(QString& error) const;
+    Annotations mergedWithFile(const Annotations& changed) const;
+    Annotations takeChanged();
+    void giveBackChanged(const Annotations& changed);
 
     const QString m_path;
     mutable std::mutex m_lock; ///< of the notes
     Annotations m_annotations;
-    mutable std::mutex m_fileLock; ///< what is saved last is the newest
+    Annotations m_changed;       ///< not in the file yet; an empty note is a removed one
+    bool m_replacesFile = false; ///< what the file holds counts no more
+    std::mutex m_fileLock;       ///< one save at a time
     std::atomic<bool> m_isSaveDue = false;
     WorkerThreads m_saves; // last: joined while all of the above still stands
 };

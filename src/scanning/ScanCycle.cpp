@@ -147,7 +147,9 @@ void ScanCycle::scan()
     NetworkList merged = mergeNetworks(*results, m_networks, m_services.clock.now());
     QMetaObject::invokeMethod(
         this,
-        [this, merged = std::move(merged)] {
+        [this, engine = m_scanEngine, merged = std::move(merged)] {
+            if (engine != m_scanEngine)
+                return; // stopped meanwhile: what is shown now may be a file's
             m_views.stopActivityIndicator();
             didFindNetworks(merged);
         },

@@ -23,6 +23,8 @@ void showExportPanel(QWidget& window, const QString& suggestedName, PathReceiver
 {
     QFileDialog& panel = makePanel(window, localized("Export"), std::move(receiver));
     panel.setAcceptMode(QFileDialog::AcceptSave);
+    // A desktop's own panel asks about the name as it was typed, before the ending is added.
+    panel.setOption(QFileDialog::DontUseNativeDialog);
     panel.setNameFilters(panel.nameFilters() << localized("All files (*)"));
     panel.setDefaultSuffix(QStringLiteral("csv"));
     panel.setLabelText(QFileDialog::FileName, localized("Export As") + u':');

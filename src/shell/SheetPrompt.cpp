@@ -150,6 +150,8 @@ void SheetPrompt::openSavePanel(const FileKind& kind, const QString& path, const
 {
     QFileDialog* panel = makePanel(kind);
     panel->setAcceptMode(QFileDialog::AcceptSave);
+    // A desktop's own panel asks about the name as it was typed, before the ending is added.
+    panel->setOption(QFileDialog::DontUseNativeDialog);
     panel->setDefaultSuffix(kind.extension);
     if (!path.isEmpty())
         panel->selectFile(path);

@@ -100,7 +100,8 @@ TEST_F(TSAnnotationsHelperTest, ADamagedFileIsKeptAside)
     for (int round = 1; round <= 2; ++round) {
         writeFile(path, damaged);
         EXPECT_TRUE(afterRestart().isEmpty());
-        helper->setAnnotations(kOther, QStringLiteral("new"));
+        helper->setAnnotationsForNetwork(kOther, QStringLiteral("new"));
+        helper->saveToDisk();
         EXPECT_EQ(contentsOf(path + QStringLiteral(".damaged-%1").arg(round)), damaged);
         EXPECT_EQ(afterRestart().size(), 1);
     }
@@ -120,4 +121,25 @@ TEST_F(TSAnnotationsHelperTest, AFileThatIsAskedForMustBeOne)
         EXPECT_EQ(contentsOf(path), bytes) << "and it is left alone";
     }
     EXPECT_FALSE(TSAnnotationsHelper(folder.path()).load().isEmpty());
+}
+
+TEST_F(TSAnnotationsHelperTest, TwoWindowsKeepEachOthersNotes)
+{
+    helper->setAnnotationsForNetwork(kBSSID, QStringLiteral("old"));
+    ASSERT_TRUE(helper->saveToDisk());
+    TSAnnotationsHelper other(path);
+    other.readFromDisk();
+
+    helper->setAnnotationsForNetwork(kBSSID, {});
+    helper->setAnnotationsForNetwork(kOther, QStringLiteral("of the first"));
+    ASSERT_TRUE(helper->saveToDisk());
+    EXPECT_TRUE(other.saveToDisk()) << "it has nothing to say";
+    const QString third = QStringLiteral("00:00:00:00:00:03");
+    other.setAnnotationsForNetwork(third, QStringLiteral("of the second"));
+    ASSERT_TRUE(other.saveToDisk());
+
+    const TSAnnotationsHelper::Annotations both{{kOther, QStringLiteral("of the first")},
+                                                {third, QStringLiteral("of the second")}};
+    EXPECT_EQ(other.annotations(), both);
+    EXPECT_EQ(afterRestart(), both);
 }

@@ -494,10 +494,6 @@ TEST_F(AppDelegateTest, ANoteIsWrittenInTheTableWhileTheScanGoesOn)
     settle();
     EXPECT_EQ(table().model()->rowCount(), 3);
     EXPECT_EQ(cell(1, u"ANNOTATIONS"), QStringLiteral("damp, dark"));
-    TSAnnotationsHelper onDisk(directory.filePath(QStringLiteral("annotations.plist")));
-    EXPECT_EQ(onDisk.load(), QString());
-    EXPECT_EQ(onDisk.annotationsForNetwork(QStringLiteral("00:00:00:00:00:02")),
-              QStringLiteral("damp, dark"));
 
     QTest::keyClick(&table(), Qt::Key_Return); // opens it by the keyboard too
     ASSERT_NE(editor(), nullptr);
@@ -512,6 +508,7 @@ TEST_F(AppDelegateTest, ANoteIsWrittenInTheTableWhileTheScanGoesOn)
     QTest::keyClicks(editor(), QStringLiteral("wet"));
     window().close();
     answerSheet("Don't Save");
+    TSAnnotationsHelper onDisk(directory.filePath(QStringLiteral("annotations.plist")));
     EXPECT_EQ(onDisk.load(), QString());
     EXPECT_EQ(onDisk.annotationsForNetwork(QStringLiteral("00:00:00:00:00:02")),
               QStringLiteral("wet"))

@@ -41,7 +41,9 @@ bool RecordingWriter::finish()
 {
     if (!m_error.isEmpty())
         return false;
-    if (gzclose(m_packer.release()) != Z_OK)
+    // Some file systems find out only now that there is no room.
+    if (gzclose(m_packer.release()) != Z_OK ||
+        (::fsync(m_file.handle()) != 0 && errno != EINVAL && errno != EROFS))
         fail(qt_error_string(errno));
     else if (!m_file.commit())
         fail(m_file.errorString());
