@@ -57,6 +57,7 @@ std::vector<DefaultEntry> makeTable()
         {Annotations, Type::QVariantMap, none},
         {u"MASPreferences Selected Identifier View", Type::QString, none},
         {NetworksTable, Type::QByteArray, none},
+        {AdvancedDetailsTable, Type::QByteArray, none},
         {RecentDocuments, Type::QStringList, none},
     };
 }

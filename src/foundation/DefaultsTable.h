@@ -53,6 +53,8 @@ TESSARA_DEFAULT_KEY(SpeakWhenOnBackground);
 TESSARA_DEFAULT_KEY(Annotations);
 /// The layout of the networks table: order, widths, hidden states and sorting of its columns.
 TESSARA_DEFAULT_KEY(NetworksTable);
+/// The layout of the tree of elements: order, widths and hidden states of its columns.
+TESSARA_DEFAULT_KEY(AdvancedDetailsTable);
 /// Paths of the results files opened last, the latest first.
 TESSARA_DEFAULT_KEY(RecentDocuments);
 #undef TESSARA_DEFAULT_KEY

@@ -1,5 +1,6 @@
 #include "shell/AppDelegate.h"
 
+#include "charts/PaintingOrder.h"
 #include "charts/TSNetworkDetailsView.h"
 #include "charts/TSSpectrumView.h"
 #include "foundation/Defaults.h"
@@ -7,6 +8,7 @@
 #include "shell/ActivityIndicator.h"
 #include "shell/GraphTabs.h"
 #include "shell/IntervalMenu.h"
+#include "shell/NetworkDetailsForm.h"
 #include "shell/NetworkDetailsPane.h"
 #include "shell/RecentDocumentsMenu.h"
 #include "shell/TSNetworksView.h"
@@ -79,6 +81,10 @@ void AppDelegate::connectParts(NotificationCenter& notifications)
     connect(&m_window.graphTabs().networkDetails().chart(),
             &TSNetworkDetailsView::userDidPickNetwork, this,
             &AppDelegate::handleUserDidPickNetwork);
+
+    NetworkDetailsForm& form = m_window.graphTabs().networkDetails().form();
+    form.setVendorURL([this](const QString& vendor) { return m_vendors.urlForVendor(vendor); });
+    connect(&form, &NetworkDetailsForm::didSelectColor, this, &AppDelegate::userDidSelectColor);
 
     using Exchange = ExchangeCommands;
     connect(&m_window, &MainWindow::fileMenuWillShow, &m_exchange, &Exchange::validateMenuItems);
@@ -417,7 +423,8 @@ void AppDelegate::configureNetworksView()
 
 void AppDelegate::configureSelectedTabView()
 {
-    m_window.graphTabs().configureSelectedTabView(m_pipeline.filteredNetworks());
+    m_window.graphTabs().configureSelectedTabView(
+        m_pipeline.filteredNetworks(), CellContext::fromDefaults(m_scanCycle.isScanning()));
 }
 
 void AppDelegate::clearSideViewSelection()
@@ -452,6 +459,19 @@ void AppDelegate::handleUserDidPickNetwork(const QString& bssid)
 {
     m_window.networksView().selectNetworks(
         [&](const TSNetwork& network) { return network.bssid() == bssid; });
+}
+
+void AppDelegate::userDidSelectColor(const QColor& color)
+{
+    const NetworkPtr network = selectedNetwork(m_pipeline.filteredNetworks());
+    if (!network)
+        return;
+    network->setColor(color);
+    Defaults& defaults = Defaults::standard();
+    QVariantMap chosen = defaults.value(DefaultKey::UserDefinedColors).toMap();
+    chosen.insert(network->bssid(), color.name(QColor::HexArgb));
+    defaults.setValue(DefaultKey::UserDefinedColors, chosen);
+    configureAll();
 }
 
 void AppDelegate::selectAssociatedNetworks()

@@ -76,6 +76,7 @@ private:
     void onFilter(const QString& line);
     void handleFilterUsingKeys(std::int64_t threshold);
     void handleUserDidPickNetwork(const QString& bssid);
+    void userDidSelectColor(const QColor& color);
     void setUpPipeline();
     void showFilteredNetworks();
     void saveDefaults();

@@ -5,7 +5,9 @@
 #include "charts/TSSpectrumView.h"
 #include "foundation/Defaults.h"
 #include "foundation/Localized.h"
+#include "shell/NetworkDetailsForm.h"
 #include "shell/NetworkDetailsPane.h"
+#include "shell/TSAdvancedDetailsView.h"
 
 #include <QAction>
 #include <QActionGroup>
@@ -48,6 +50,7 @@ GraphTabs::GraphTabs(const Clock& clock, QWidget* parent)
     , m_networkDetails(new NetworkDetailsPane(clock))
     , m_signalStrengthView(new TSSignalStrengthView(clock))
     , m_spectrumView(new TSSpectrumView(clock))
+    , m_advancedDetailsView(new TSAdvancedDetailsView)
 {
     m_tabBar->setDrawBase(false);
     m_tabBar->setExpanding(false);
@@ -59,7 +62,8 @@ GraphTabs::GraphTabs(const Clock& clock, QWidget* parent)
     layout->addWidget(m_pages, 1);
     setMinimumHeight(kSmallestHeight);
 
-    QWidget* const pages[] = {m_networkDetails, m_signalStrengthView, m_spectrumView, nullptr};
+    QWidget* const pages[] = {m_networkDetails, m_signalStrengthView, m_spectrumView,
+                              m_advancedDetailsView};
     for (std::size_t i = 0; i < std::size(kTabs); ++i)
         addTab(kTabs[i].title, pages[i]);
     connect(m_tabBar, &QTabBar::currentChanged, this, &GraphTabs::tabDidChange);
@@ -77,22 +81,17 @@ GraphTabs::GraphTabs(const Clock& clock, QWidget* parent)
 void GraphTabs::addTab(const char* title, QWidget* page)
 {
     const int index = m_tabBar->addTab(localized(title));
-    m_tabBar->setTabEnabled(index, page != nullptr);
-    if (page)
-        page->setAccessibleName(localized(title));
-    m_pages->addWidget(page ? page : new QWidget);
+    page->setAccessibleName(localized(title));
+    m_pages->addWidget(page);
 
     QAction* item = m_tabItems->addAction(localized(title));
     item->setCheckable(true);
-    item->setEnabled(page != nullptr);
     item->setShortcut(QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + index)));
     connect(item, &QAction::triggered, this, [this, index] { selectGraph(index); });
 }
 
 void GraphTabs::selectGraph(int index)
 {
-    while (!m_tabBar->isTabEnabled(index))
-        index = (index + 1) % m_tabBar->count();
     m_tabBar->setCurrentIndex(index);
 }
 
@@ -104,24 +103,42 @@ void GraphTabs::tabDidChange(int index)
     configure();
 }
 
-void GraphTabs::configureSelectedTabView(const NetworkList& filteredNetworks)
+void GraphTabs::configureSelectedTabView(const NetworkList& filteredNetworks,
+                                         const CellContext& context)
 {
     m_filteredNetworks = filteredNetworks;
+    m_context = context;
     configure();
 }
 
 void GraphTabs::configure()
 {
     TSSignalStrengthView* chart = selectedChart();
-    if (!chart)
+    if (!chart) {
+        configureAdvancedDetailsTabView();
         return;
+    }
     chart->setUnits(unitsOfSetting(Defaults::standard().integerForKey(DefaultKey::Units)));
     chart->setItemHighlightEnabled(std::ranges::any_of(
         m_filteredNetworks, &TSNetwork::isUserHighlighted,
         [](const NetworkPtr& network) -> const TSNetwork& { return *network; }));
     chart->setNetworks(m_filteredNetworks);
-    if (chart == &m_networkDetails->chart())
-        m_networkDetails->chart().setNetwork(selectedNetwork(m_filteredNetworks));
+    if (chart != &m_networkDetails->chart())
+        return;
+    const NetworkPtr network = selectedNetwork(m_filteredNetworks);
+    m_networkDetails->chart().setNetwork(network);
+    m_networkDetails->form().setNetwork(network.get(), m_context);
+}
+
+void GraphTabs::configureAdvancedDetailsTabView()
+{
+    const NetworkPtr network = selectedNetwork(m_filteredNetworks);
+    m_advancedDetailsView->setFontSize(
+        Defaults::standard().doubleForKey(DefaultKey::AdvancedDetailsViewFontSize));
+    m_advancedDetailsView->setPlaceholderText(
+        network ? localized("The network announces no information elements")
+                : localized("Select a network to see its information elements"));
+    m_advancedDetailsView->setNetwork(network);
 }
 
 void GraphTabs::setReferenceTime(double time)
@@ -139,6 +156,8 @@ void GraphTabs::loadDefaults()
     const auto* tab = std::ranges::find(kTabs, identifier, &GraphTab::identifier);
     selectGraph(tab == std::end(kTabs) ? 0 : static_cast<int>(tab - std::begin(kTabs)));
 
+    m_advancedDetailsView->restoreLayout(
+        defaults.value(DefaultKey::AdvancedDetailsTable).toByteArray());
     const auto loadTimescale = [&defaults](TSSignalStrengthView& chart, const auto* key) {
         chart.setTimescale(std::clamp<std::int64_t>(defaults.integerForKey(key),
                                                     chart.minTimescale(), chart.maxTimescale()));
@@ -155,6 +174,7 @@ void GraphTabs::saveDefaults() const
     defaults.setValue(
         DefaultKey::SelectedTabViewIdentifier,
         kTabs[static_cast<std::size_t>(m_tabBar->currentIndex())].identifier.toString());
+    defaults.setValue(DefaultKey::AdvancedDetailsTable, m_advancedDetailsView->layoutState());
     defaults.setValue(DefaultKey::SignalStrengthViewTimescale,
                       static_cast<qint64>(m_signalStrengthView->timescale()));
     defaults.setValue(DefaultKey::NetworkSignalStrengthViewTimescale,

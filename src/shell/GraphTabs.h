@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/ColumnRegistry.h"
 #include "model/TSNetwork.h"
 
 #include <QWidget>
@@ -13,6 +14,7 @@ namespace tessara {
 
 class Clock;
 class NetworkDetailsPane;
+class TSAdvancedDetailsView;
 class TSSignalStrengthView;
 class TSSpectrumView;
 
@@ -26,11 +28,11 @@ public:
     explicit GraphTabs(const Clock& clock, QWidget* parent = nullptr);
 
     /// Shows the networks of the table, and which of them are selected.
-    void configureSelectedTabView(const NetworkList& filteredNetworks);
+    void configureSelectedTabView(const NetworkList& filteredNetworks, const CellContext& context);
     /// The time that the charts end at, seconds since 1970.
     void setReferenceTime(double time);
 
-    /// Selects a tab, counted from 0; one that has nothing to show yet is passed over.
+    /// Selects a tab, counted from 0.
     void selectGraph(int index);
     /// The tab and the ranges of time, from the settings and to them.
     void loadDefaults();
@@ -42,6 +44,7 @@ public:
     NetworkDetailsPane& networkDetails() { return *m_networkDetails; }
     TSSignalStrengthView& signalStrengthView() { return *m_signalStrengthView; }
     TSSpectrumView& spectrumView() { return *m_spectrumView; }
+    TSAdvancedDetailsView& advancedDetailsView() { return *m_advancedDetailsView; }
 
 protected:
     /// Follows the Option key, which is Alt here, in the window that it filters.
@@ -51,6 +54,7 @@ private:
     void addTab(const char* title, QWidget* page);
     void tabDidChange(int index);
     void configure();
+    void configureAdvancedDetailsTabView();
     TSSignalStrengthView* selectedChart() const;
     TSSignalStrengthView* selectedTimeChart() const;
     void magnify(double magnification);
@@ -65,7 +69,9 @@ private:
     NetworkDetailsPane* m_networkDetails;
     TSSignalStrengthView* m_signalStrengthView;
     TSSpectrumView* m_spectrumView;
+    TSAdvancedDetailsView* m_advancedDetailsView;
     NetworkList m_filteredNetworks;
+    CellContext m_context;
     bool m_altKeyDown = false;
 };
 

@@ -2,6 +2,7 @@
 
 #include "charts/TSNetworkDetailsView.h"
 #include "foundation/Localized.h"
+#include "shell/NetworkDetailsForm.h"
 
 #include <QAction>
 #include <QActionGroup>
@@ -23,6 +24,7 @@ NetworkDetailsPane::NetworkDetailsPane(const Clock& clock, QWidget* parent)
     , m_metricPopUp(new QComboBox)
     , m_metricItems(new QActionGroup(this))
     , m_chart(new TSNetworkDetailsView(clock))
+    , m_form(new NetworkDetailsForm)
 {
     auto* caption = new QLabel(localized("&Show:"));
     caption->setBuddy(m_metricPopUp);
@@ -35,11 +37,15 @@ NetworkDetailsPane::NetworkDetailsPane(const Clock& clock, QWidget* parent)
     selector->addWidget(caption);
     selector->addWidget(m_metricPopUp);
     selector->addStretch();
-    auto* layout = new QVBoxLayout(this);
+    auto* graph = new QVBoxLayout;
+    graph->setSpacing(0);
+    graph->addLayout(selector);
+    graph->addWidget(m_chart, 1);
+    auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
-    layout->addLayout(selector);
-    layout->addWidget(m_chart, 1);
+    layout->addWidget(m_form);
+    layout->addLayout(graph, 1);
 
     for (const char* title : kMetricTitles) {
         const int index = m_metricPopUp->count();

@@ -8,9 +8,11 @@ class QComboBox;
 namespace tessara {
 
 class Clock;
+class NetworkDetailsForm;
 class TSNetworkDetailsView;
 
-/// The tab of the selected network: the chart of its history, and what selects the chart's metric.
+/// The tab of the selected network: the network in words, the chart of its history, and what
+/// selects the chart's metric.
 class NetworkDetailsPane final : public QWidget {
     Q_OBJECT
 
@@ -19,6 +21,7 @@ public:
     explicit NetworkDetailsPane(const Clock& clock, QWidget* parent = nullptr);
 
     TSNetworkDetailsView& chart() { return *m_chart; }
+    NetworkDetailsForm& form() { return *m_form; }
     /// The commands that select the metric, one of them checked.
     QActionGroup& metricItems() { return *m_metricItems; }
 
@@ -33,6 +36,7 @@ private:
     QComboBox* m_metricPopUp;
     QActionGroup* m_metricItems;
     TSNetworkDetailsView* m_chart;
+    NetworkDetailsForm* m_form;
 };
 
 } // namespace tessara

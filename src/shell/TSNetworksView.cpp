@@ -1,8 +1,8 @@
 #include "shell/TSNetworksView.h"
 
 #include "foundation/Localized.h"
-#include "foundation/TextOrder.h"
 #include "shell/ColumnLayout.h"
+#include "shell/HeaderMenu.h"
 #include "shell/NetworkCellDelegate.h"
 
 #include <QApplication>
@@ -25,6 +25,7 @@ constexpr int kRoomBesideContents = 17; // pixels, of a column that is fitted to
 // The registry's widths are meant for a font of this size in points.
 constexpr double kWidthFont = 11;
 constexpr double kDefaultWidth = 80; // of a column that the registry leaves to the table
+constexpr int kFirstColumn = 1;      // behind the marker
 
 std::span<const Column> columns()
 {
@@ -364,38 +365,16 @@ void TSNetworksView::restoreLayout(const QByteArray& state)
 
 void TSNetworksView::addColumnItems(QMenu& menu)
 {
-    std::vector<const Column*> byTitle;
-    for (const Column& column : columns()) {
-        if (column.cell != CellKind::kMarker)
-            byTitle.push_back(&column);
-    }
-    std::ranges::sort(byTitle, [](const Column* a, const Column* b) {
-        return localizedStandardCompare(localized(a->title), localized(b->title)) < 0;
-    });
-    for (const Column* column : byTitle) {
-        const int index = indexOf(*column);
-        QAction* item = menu.addAction(localized(column->title));
-        item->setCheckable(true);
-        item->setChecked(!isColumnHidden(index));
-        item->setEnabled(canBeHidden(*column));
-        item->setToolTip(localized(column->description));
-        connect(item, &QAction::toggled, this,
-                [this, index](bool shown) { setColumnShown(index, shown); });
-    }
+    tessara::addColumnItems(
+        menu, *this, [](int column) { return canBeHidden(columnOf(column)); },
+        [this](int column, bool shown) { setColumnShown(column, shown); }, kFirstColumn);
 }
 
 void TSNetworksView::showHeaderMenu(const QPoint& position)
 {
-    const int clicked = header()->logicalIndexAt(position);
     QMenu menu;
     menu.setToolTipsVisible(true);
-    QAction* autoSize = menu.addAction(localized("Auto Size Column"), this,
-                                       [this, clicked] { resizeColumnToContents(clicked); });
-    autoSize->setEnabled(clicked > 0);
-    menu.addAction(localized("Auto Size All Columns"), this, [this] {
-        for (int column = 1; column < header()->count(); ++column)
-            resizeColumnToContents(column);
-    });
+    addAutoSizeItems(menu, *this, header()->logicalIndexAt(position), kFirstColumn);
     menu.addSeparator();
     addColumnItems(menu);
     menu.exec(header()->mapToGlobal(position));

@@ -57,30 +57,30 @@ TEST_F(GraphTabsTest, ShowTheNetworksOfTheListAndWhichAreSelected)
     tabs.loadDefaults();
     tabs.selectGraph(1);
     const NetworkList networks = testNetworks(3);
-    tabs.configureSelectedTabView(networks);
+    tabs.configureSelectedTabView(networks, {});
     EXPECT_EQ(chart.networks().size(), 3U);
     EXPECT_FALSE(chart.itemHighlightEnabled());
     EXPECT_EQ(chart.units(), Units::kDBm);
 
     networks[1]->setUserHighlighted(true);
-    tabs.configureSelectedTabView(networks);
+    tabs.configureSelectedTabView(networks, {});
     EXPECT_TRUE(chart.itemHighlightEnabled());
     EXPECT_EQ(chart.networks().back(), networks[1]);
-    tabs.configureSelectedTabView({networks[0]}); // the selected one has left the list
+    tabs.configureSelectedTabView({networks[0]}, {}); // the selected one has left the list
     EXPECT_FALSE(chart.itemHighlightEnabled());
 }
 
 TEST_F(GraphTabsTest, ShowTheDetailsOfTheOneNetworkThatIsSelected)
 {
     const NetworkList networks = testNetworks(3);
-    tabs.configureSelectedTabView(networks);
+    tabs.configureSelectedTabView(networks, {});
     EXPECT_EQ(details.network(), nullptr);
     networks[1]->setUserHighlighted(true);
-    tabs.configureSelectedTabView(networks);
+    tabs.configureSelectedTabView(networks, {});
     EXPECT_EQ(details.network(), networks[1]);
     networks[2]->setUserHighlighted(true);
     tabs.selectGraph(1);
-    tabs.configureSelectedTabView(networks);
+    tabs.configureSelectedTabView(networks, {});
     tabs.selectGraph(0); // which catches up
     EXPECT_EQ(details.network(), nullptr);
 }
@@ -162,7 +162,7 @@ TEST_F(GraphTabsTest, ShowTheSpectrumWhichKnowsNoTime)
 {
     const NetworkList networks = testNetworks(3);
     networks[1]->setUserHighlighted(true);
-    tabs.configureSelectedTabView(networks);
+    tabs.configureSelectedTabView(networks, {});
     EXPECT_TRUE(tabs.spectrumView().networks().empty()); // not in sight
     item("Spectrum").trigger();
     EXPECT_EQ(tabs.spectrumView().networks().back(), networks[1]);

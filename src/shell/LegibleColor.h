@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QColor>
+#include <QPalette>
+
+#include <algorithm>
+
+namespace tessara {
+
+/// A colour meant for text on white, as light as it must be to be read on the palette's ground.
+inline QColor legible(const QColor& color, const QPalette& palette)
+{
+    constexpr float kDark = 0.5F;
+    if (palette.color(QPalette::Base).lightnessF() >= kDark)
+        return color;
+    // What was so much darker than the ground is now so much lighter; hue and opacity stay.
+    const float lightness = std::clamp(1 - color.lightnessF() * 0.8F, 0.6F, 0.9F);
+    return QColor::fromHslF(std::max(color.hslHueF(), 0.0F), color.hslSaturationF() * 0.6F,
+                            lightness, color.alphaF());
+}
+
+} // namespace tessara

@@ -1,0 +1,238 @@
+#include "shell/NetworkDetailsForm.h"
+
+#include "charts/TSThemeHelper.h"
+#include "foundation/Localized.h"
+#include "shell/ColorWell.h"
+#include "shell/LegibleColor.h"
+#include "shell/NetworkDetailsText.h"
+#include "shell/ToolTipText.h"
+
+#include <QGridLayout>
+#include <QLabel>
+#include <QScrollBar>
+#include <QStackedWidget>
+
+namespace tessara {
+
+namespace {
+
+constexpr int kMargin = 12;      // pixels
+constexpr int kRowSpacing = 3;   // between rows
+constexpr int kGroupSpacing = 8; // between groups of rows
+constexpr int kWidth = 52;       // characters
+constexpr int kReadingWidth = 9; // characters, of a reading such as "-100 dBm"
+constexpr double kCaptionAlpha = 0.7;
+constexpr double kNameSize = 1.2; // beside the other texts
+
+enum GridColumn { kCaption, kValue, kSecondValue };
+
+QLabel* makeValue()
+{
+    auto* value = new QLabel;
+    value->setTextFormat(Qt::PlainText); // texts come from the air
+    value->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    value->setWordWrap(true);
+    value->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    value->setCursor(Qt::IBeamCursor);
+    return value;
+}
+
+QLabel* makeCaption(const QString& text)
+{
+    auto* caption = new QLabel(text);
+    caption->setAlignment(Qt::AlignRight | Qt::AlignTop);
+    QPalette palette = caption->palette();
+    palette.setColor(QPalette::WindowText,
+                     withAlpha(palette.color(QPalette::WindowText), kCaptionAlpha));
+    caption->setPalette(palette);
+    return caption;
+}
+
+void setTextColor(QLabel& label, const QColor& color)
+{
+    QPalette palette = label.palette();
+    palette.setColor(QPalette::WindowText, color);
+    label.setPalette(palette);
+}
+
+QString underlined(const ChannelRangeText& range)
+{
+    QString text = range.text; // digits and blanks
+    if (range.underlineLength > 0) {
+        text.insert(range.underlineStart + range.underlineLength, QLatin1String("</u>"));
+        text.insert(range.underlineStart, QLatin1String("<u>"));
+    }
+    return text;
+}
+
+} // namespace
+
+NetworkDetailsForm::NetworkDetailsForm(QWidget* parent)
+    : QScrollArea(parent)
+    , m_pages(new QStackedWidget)
+{
+    setFrameShape(NoFrame);
+    setWidgetResizable(true);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setFocusPolicy(Qt::NoFocus);
+    setFixedWidth(kWidth * fontMetrics().averageCharWidth());
+    auto* placeholder = new QLabel(localized("Select a network"));
+    placeholder->setAlignment(Qt::AlignCenter);
+    setTextColor(*placeholder, palette().color(QPalette::PlaceholderText));
+    m_pages->addWidget(placeholder);
+    makeForm();
+    setWidget(m_pages);
+}
+
+void NetworkDetailsForm::makeForm()
+{
+    auto* form = new QWidget;
+    m_grid = new QGridLayout(form);
+    m_grid->setContentsMargins(kMargin, kMargin / 2, kMargin, kMargin / 2);
+    m_grid->setVerticalSpacing(kRowSpacing);
+    m_grid->setHorizontalSpacing(kMargin / 2);
+    m_grid->setColumnStretch(kSecondValue, 1);
+    m_grid->setColumnMinimumWidth(kValue, kReadingWidth * fontMetrics().averageCharWidth());
+
+    m_networkColorWell = new ColorWell;
+    connect(m_networkColorWell, &ColorWell::didSelectColor, this,
+            &NetworkDetailsForm::didSelectColor);
+    m_ssidLbl = makeValue();
+    QFont bold = m_ssidLbl->font();
+    bold.setBold(true);
+    bold.setPointSizeF(bold.pointSizeF() * kNameSize);
+    m_ssidLbl->setFont(bold);
+    m_grid->addWidget(m_networkColorWell, 0, kCaption, Qt::AlignRight | Qt::AlignVCenter);
+    m_grid->addWidget(m_ssidLbl, 0, kValue, 1, 2);
+    m_bssid = addRow("BSSID");
+    m_vendor = addRow("Vendor");
+    m_vendor.value->setTextFormat(Qt::RichText);
+    m_vendor.value->setOpenExternalLinks(true);
+    addSpace();
+    makeSignalRows();
+    addSpace();
+    m_band = addRow("Band");
+    m_channel = addRow("Channel");
+    m_channel.value->setTextFormat(Qt::RichText);
+    m_width = addRow("Channel Width");
+    m_mode = addRow("Mode");
+    m_networkType = addRow("Network Type");
+    m_beaconInterval = addRow("Beacon Interval");
+    addSpace();
+    m_security = addRow("Security");
+    m_encryption = addRow("Encryption");
+    m_wps = addRow("WPS");
+    addSpace();
+    m_rates = addRow("Basic Rates");
+    m_maxRate = addRow("Max Rate");
+    m_grid->setRowStretch(m_grid->rowCount(), 1);
+    m_pages->addWidget(form);
+}
+
+/// The readings of now, and beside them those of all the time.
+void NetworkDetailsForm::makeSignalRows()
+{
+    const auto addStatistic = [this](const Row& row) {
+        const int place = m_grid->rowCount() - 1;
+        m_grid->removeWidget(row.value);
+        m_grid->addWidget(row.value, place, kValue);
+        row.value->setWordWrap(false);
+        QLabel* statistic = makeValue();
+        statistic->setWordWrap(false);
+        m_grid->addWidget(statistic, place, kSecondValue);
+        statistic->setToolTip(localized("Average, minimum and maximum"));
+        return statistic;
+    };
+    const int captions = m_grid->rowCount();
+    m_grid->addWidget(makeCaption(localized("Avg/Min/Max")), captions, kSecondValue, Qt::AlignLeft);
+    m_rssi = addRow("Signal");
+    m_rssiAvgLbl = addStatistic(m_rssi);
+    m_noise = addRow("Noise");
+    m_noiseAvgLbl = addStatistic(m_noise);
+    m_snr = addRow("SNR");
+    m_snrAvgLbl = addStatistic(m_snr);
+    m_signalQuality = addRow("Quality");
+}
+
+NetworkDetailsForm::Row NetworkDetailsForm::addRow(const char* caption)
+{
+    const Row row{makeCaption(localized(caption) + u':'), makeValue()};
+    const int place = m_grid->rowCount();
+    m_grid->addWidget(row.caption, place, kCaption);
+    m_grid->addWidget(row.value, place, kValue, 1, 2);
+    row.value->setAccessibleName(localized(caption));
+    return row;
+}
+
+void NetworkDetailsForm::addSpace()
+{
+    m_grid->setRowMinimumHeight(m_grid->rowCount(), kGroupSpacing - 2 * kRowSpacing);
+}
+
+void NetworkDetailsForm::Row::setText(const QString& text) const
+{
+    value->setText(text);
+    caption->setVisible(!text.isEmpty());
+    value->setVisible(!text.isEmpty());
+}
+
+void NetworkDetailsForm::setNetwork(const TSNetwork* network, const CellContext& context)
+{
+    if (network)
+        fill(*network, context);
+    m_pages->setCurrentIndex(network ? 1 : 0);
+}
+
+void NetworkDetailsForm::fill(const TSNetwork& network, const CellContext& context)
+{
+    const auto text = NetworkDetailsText::of(network, context.dBm);
+    m_networkColorWell->setColor(network.color());
+    m_ssidLbl->setText(text.ssid);
+    m_bssid.setText(text.bssid);
+    m_vendor.setText(vendorText(text.vendor));
+    m_band.setText(text.band);
+    m_channel.setText(underlined(text.channel));
+    m_width.setText(text.width);
+    m_mode.setText(text.mode);
+    m_networkType.setText(text.networkType);
+    m_beaconInterval.setText(text.beaconInterval);
+    m_security.setText(text.security);
+    m_encryption.setText(text.encryption);
+    m_wps.setText(text.wps);
+    m_rates.setText(text.rates);
+    m_maxRate.setText(text.maxRate);
+    m_maxRate.value->setToolTip(toolTipOf(text.maxRate.isEmpty() ? QString() : text.allRates));
+
+    m_rssi.setText(text.rssi);
+    m_noise.setText(text.noise);
+    m_snr.setText(text.snr);
+    m_rssiAvgLbl->setText(text.rssiAvg);
+    m_noiseAvgLbl->setText(text.noiseAvg);
+    m_snrAvgLbl->setText(text.snrAvg);
+    fillSignal(network, context);
+}
+
+void NetworkDetailsForm::fillSignal(const TSNetwork& network, const CellContext& context)
+{
+    const SignalQuality quality = signalQuality(network, context.isScanning);
+    m_signalQuality.setText(localized(quality.text));
+    const QColor normal = palette().color(QPalette::WindowText);
+    setTextColor(*m_signalQuality.value, quality.isMissing ? legible(Qt::red, palette()) : normal);
+    const QColor reading =
+        quality.isMissing ? palette().color(QPalette::Disabled, QPalette::WindowText) : normal;
+    for (const Row& row : {m_rssi, m_noise, m_snr})
+        setTextColor(*row.value, reading);
+}
+
+/// As a link where the vendor's web site is known.
+QString NetworkDetailsForm::vendorText(const QString& vendor) const
+{
+    const QString name = vendor.toHtmlEscaped();
+    const auto url = m_urlForVendor ? m_urlForVendor(vendor) : std::nullopt;
+    if (!url)
+        return name;
+    return QStringLiteral("<a href=\"%1\" style=\"color:%2\">%3</a>")
+        .arg(url->toHtmlEscaped(), legible(Qt::blue, palette()).name(), name);
+}
+
+} // namespace tessara

@@ -1,0 +1,80 @@
+#pragma once
+
+#include "model/ColumnRegistry.h"
+#include "model/TSNetwork.h"
+
+#include <QScrollArea>
+
+#include <functional>
+#include <optional>
+
+class QGridLayout;
+class QLabel;
+class QStackedWidget;
+
+namespace tessara {
+
+class ColorWell;
+
+/// The selected network in words: captions and values, and the colour it is drawn in.
+class NetworkDetailsForm final : public QScrollArea {
+    Q_OBJECT
+
+public:
+    /// Gives the address of a vendor's web site by the vendor's name, if there is one.
+    using VendorURL = std::function<std::optional<QString>(const QString& vendor)>;
+
+    explicit NetworkDetailsForm(QWidget* parent = nullptr);
+
+    void setVendorURL(VendorURL urlForVendor) { m_urlForVendor = std::move(urlForVendor); }
+    /// Shows a network; for none, what to do to see one.
+    void setNetwork(const TSNetwork* network, const CellContext& context);
+
+Q_SIGNALS:
+    /// The user has chosen a colour for the network.
+    void didSelectColor(const QColor& color);
+
+private:
+    /// A caption and its value, hidden together where there is no value.
+    struct Row {
+        QLabel* caption;
+        QLabel* value;
+        void setText(const QString& text) const;
+    };
+
+    Row addRow(const char* caption);
+    void addSpace();
+    void makeForm();
+    void makeSignalRows();
+    void fill(const TSNetwork& network, const CellContext& context);
+    void fillSignal(const TSNetwork& network, const CellContext& context);
+    QString vendorText(const QString& vendor) const;
+
+    VendorURL m_urlForVendor;
+    QStackedWidget* m_pages;
+    QGridLayout* m_grid = nullptr;
+    ColorWell* m_networkColorWell = nullptr;
+    QLabel* m_ssidLbl = nullptr;
+    Row m_bssid{};
+    Row m_vendor{};
+    Row m_rssi{};
+    Row m_noise{};
+    Row m_snr{};
+    QLabel* m_rssiAvgLbl = nullptr;
+    QLabel* m_noiseAvgLbl = nullptr;
+    QLabel* m_snrAvgLbl = nullptr;
+    Row m_signalQuality{};
+    Row m_band{};
+    Row m_channel{};
+    Row m_width{};
+    Row m_mode{};
+    Row m_networkType{};
+    Row m_beaconInterval{};
+    Row m_security{};
+    Row m_encryption{};
+    Row m_wps{};
+    Row m_rates{};
+    Row m_maxRate{};
+};
+
+} // namespace tessara
