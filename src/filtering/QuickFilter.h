@@ -2,6 +2,7 @@
 
 #include "model/TSNetwork.h"
 
+#include <limits>
 #include <span>
 
 namespace tessara {
@@ -14,6 +15,9 @@ enum class QuickFilter : qint64 {
     kSecureNetworks = 2,
     kAdHocNetworks = 3,
 };
+/// Stands for no quick filter, but for the wish to define some.
+inline constexpr auto kQuickFilterNotFound =
+    static_cast<QuickFilter>(std::numeric_limits<qint64>::max());
 
 struct QuickFilterItem {
     QuickFilter tag;

@@ -55,7 +55,7 @@ std::vector<DefaultEntry> makeTable()
         {SpeakIntervalInSeconds, Type::LongLong, none},
         {SpeakWhenOnBackground, Type::Bool, none},
         {Annotations, Type::QVariantMap, none},
-        {u"MASPreferences Selected Identifier View", Type::QString, none},
+        {SelectedPreferencesPane, Type::QString, none},
         {NetworksTable, Type::QByteArray, none},
         {AdvancedDetailsTable, Type::QByteArray, none},
         {RecentDocuments, Type::QStringList, none},

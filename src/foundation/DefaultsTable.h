@@ -51,6 +51,8 @@ TESSARA_DEFAULT_KEY(SpeakOn);
 TESSARA_DEFAULT_KEY(SpeakIntervalInSeconds);
 TESSARA_DEFAULT_KEY(SpeakWhenOnBackground);
 TESSARA_DEFAULT_KEY(Annotations);
+/// The identifier of the pane of the preferences that was seen last.
+inline constexpr char16_t SelectedPreferencesPane[] = u"MASPreferences Selected Identifier View";
 /// The layout of the networks table: order, widths, hidden states and sorting of its columns.
 TESSARA_DEFAULT_KEY(NetworksTable);
 /// The layout of the tree of elements: order, widths and hidden states of its columns.

@@ -6,8 +6,12 @@
 #include "foundation/Defaults.h"
 #include "foundation/Localized.h"
 #include "shell/ActivityIndicator.h"
+#include "shell/AdvancedPrefsViewController.h"
+#include "shell/ColumnsPrefsViewController.h"
+#include "shell/GeneralPrefsViewController.h"
 #include "shell/GraphTabs.h"
 #include "shell/IntervalMenu.h"
+#include "shell/MASPreferencesWindowController.h"
 #include "shell/NetworkDetailsForm.h"
 #include "shell/NetworkDetailsPane.h"
 #include "shell/RecentDocumentsMenu.h"
@@ -63,6 +67,8 @@ void AppDelegate::connectParts(NotificationCenter& notifications)
     connect(&m_window, &MainWindow::fileRequested, this, &AppDelegate::openFile);
     connect(&m_document, &ResultsDocument::titleDidChange, this, &AppDelegate::configureAll);
     connect(&m_document, &ResultsDocument::fileDidOpen, this, &RecentDocumentsMenu::addDocument);
+    connect(&m_window, &MainWindow::preferencesRequested, this,
+            [this] { showPreferencesWithIdentifier({}); });
     connect(&m_window, &MainWindow::scanRequested, this,
             [this] { m_document.doAfterSaving([this] { m_scanCycle.doStart(); }); });
     connect(&m_window, &MainWindow::stopRequested, &m_scanCycle, &ScanCycle::doStop);
@@ -234,6 +240,47 @@ void AppDelegate::showNoInterfaceAlert()
     });
 }
 
+// Preferences ------------------------------------------------------------------------------------
+
+void AppDelegate::showPreferencesWithIdentifier(const QString& identifier)
+{
+    if (!m_preferences)
+        makePreferences();
+    if (!identifier.isEmpty())
+        m_preferences->selectPane(identifier);
+    m_preferences->show();
+    m_preferences->raise();
+    m_preferences->activateWindow();
+}
+
+/// What a pane asks for comes after the pane has done its own.
+void AppDelegate::makePreferences()
+{
+    auto* general = new GeneralPrefsViewController;
+    auto* columns = new ColumnsPrefsViewController(m_window.networksView());
+    auto* advanced = new AdvancedPrefsViewController;
+    m_preferences = new MASPreferencesWindowController({general, columns, advanced}, &m_window);
+    connect(general, &GeneralPrefsViewController::valuesDidChange, this,
+            &AppDelegate::valuesDidChange, Qt::QueuedConnection);
+    connect(
+        columns, &ColumnsPrefsViewController::displayAnnotationsDidChange, this,
+        [this](bool display) {
+            m_window.graphTabs().spectrumView().setDisplayAnnotations(display);
+        },
+        Qt::QueuedConnection);
+    connect(advanced, &AdvancedPrefsViewController::spectrumDidChange, this,
+            &AppDelegate::configureSelectedTabView, Qt::QueuedConnection);
+    connect(
+        advanced, &AdvancedPrefsViewController::checkNowRequested, this,
+        [this] { m_vendorsUpdate.checkForDatabaseUpdates(true); }, Qt::QueuedConnection);
+}
+
+void AppDelegate::valuesDidChange()
+{
+    loadDefaults();
+    filterAndSetNetworks(m_pipeline.networks());
+}
+
 // Shutdown --------------------------------------------------------------------------------------
 
 bool AppDelegate::eventFilter(QObject* watched, QEvent* event)
@@ -293,6 +340,14 @@ void AppDelegate::saveDefaults()
 
 void AppDelegate::selectQuickFilter(QuickFilter filter)
 {
+    if (filter == kQuickFilterNotFound) {
+        const auto stored = static_cast<QuickFilter>(
+            Defaults::standard().integerForKey(DefaultKey::QuickFilterSelectedItem));
+        selectQuickFilter(stored == filter ? QuickFilter::kAllNetworks : stored);
+        // There is no such pane yet: the one that was seen last shows.
+        showPreferencesWithIdentifier(QStringLiteral("Filters"));
+        return;
+    }
     Defaults::standard().setValue(DefaultKey::QuickFilterSelectedItem, static_cast<qint64>(filter));
     if (isQuickFilter(filter))
         m_window.setQuickFilter(filter);

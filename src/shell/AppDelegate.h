@@ -13,6 +13,8 @@
 
 namespace tessara {
 
+class MASPreferencesWindowController;
+
 /// The one controller of the application: builds its parts, connects them, and brings them up
 /// and down in order. What the parts do is theirs.
 class AppDelegate final : public QObject, private ScanCycleViews, private ShownResults {
@@ -77,6 +79,9 @@ private:
     void handleFilterUsingKeys(std::int64_t threshold);
     void handleUserDidPickNetwork(const QString& bssid);
     void userDidSelectColor(const QColor& color);
+    void showPreferencesWithIdentifier(const QString& identifier);
+    void makePreferences();
+    void valuesDidChange();
     void setUpPipeline();
     void showFilteredNetworks();
     void saveDefaults();
@@ -113,6 +118,8 @@ private:
     bool m_windowDidShowFirstTime = false;
     std::int64_t m_signalStrengthThreshold = 0;
     SideViewSelection m_sideViewSelection;
+    MASPreferencesWindowController* m_preferences =
+        nullptr; ///< the window's, once it was asked for
     bool m_didTerminate = false;
 };
 

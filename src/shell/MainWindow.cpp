@@ -280,6 +280,11 @@ void MainWindow::makeEditMenu()
     editNote->setShortcut(QKeySequence(Qt::Key_F2));
     connect(&edit, &QMenu::aboutToShow, editNote,
             [this, editNote] { editNote->setEnabled(m_networksView->canEditAnnotations()); });
+    edit.addSeparator();
+    QAction* preferences =
+        edit.addAction(localized("&Preferences..."), this, &MainWindow::preferencesRequested);
+    preferences->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Comma));
+    preferences->setMenuRole(QAction::PreferencesRole);
     // The key asks the table.
     connect(&edit, &QMenu::aboutToHide, editNote, [editNote] { editNote->setEnabled(true); });
 }

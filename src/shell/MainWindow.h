@@ -72,6 +72,7 @@ Q_SIGNALS:
     void saveAsRequested();
     /// A file was dropped here, or chosen from the recent ones.
     void fileRequested(const QString& path);
+    void preferencesRequested();
     void scanRequested();
     void stopRequested();
     void quickFilterSelected(QuickFilter filter);

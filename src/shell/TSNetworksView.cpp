@@ -42,12 +42,6 @@ int indexOf(const Column& column)
     return static_cast<int>(&column - columns().data());
 }
 
-/// The column that tells what a row is: it is always there.
-bool canBeHidden(const Column& column)
-{
-    return column.cell != CellKind::kMarker && column.identifier != QLatin1String("BSSID");
-}
-
 const Column& annotationsColumn()
 {
     return *columnWithIdentifier(u"ANNOTATIONS");
@@ -239,7 +233,7 @@ void TSNetworksView::editAnnotations()
     if (!note.isValid() || isEditing()) // the key that ends editing comes by here too
         return;
     if (isColumnHidden(note.column()))
-        setColumnShown(note.column(), true);
+        setColumnShown(annotationsColumn(), true);
     selectionModel()->setCurrentIndex(note, QItemSelectionModel::NoUpdate);
     scrollTo(note);
     edit(note);
@@ -326,9 +320,15 @@ std::vector<const Column*> TSNetworksView::visibleColumns() const
     return visible;
 }
 
-void TSNetworksView::setColumnShown(int column, bool shown)
+bool TSNetworksView::canBeHidden(const Column& column)
 {
-    setColumnHidden(column, !shown);
+    // Two columns tell what a row is: they are always there.
+    return column.cell != CellKind::kMarker && column.identifier != QLatin1String("BSSID");
+}
+
+void TSNetworksView::setColumnShown(const Column& column, bool shown)
+{
+    setColumnHidden(indexOf(column), !shown);
     Q_EMIT columnDidChangeHiddenState();
 }
 
@@ -367,7 +367,7 @@ void TSNetworksView::addColumnItems(QMenu& menu)
 {
     tessara::addColumnItems(
         menu, *this, [](int column) { return canBeHidden(columnOf(column)); },
-        [this](int column, bool shown) { setColumnShown(column, shown); }, kFirstColumn);
+        [this](int column, bool shown) { setColumnShown(columnOf(column), shown); }, kFirstColumn);
 }
 
 void TSNetworksView::showHeaderMenu(const QPoint& position)

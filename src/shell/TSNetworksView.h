@@ -43,6 +43,9 @@ public:
     /// All columns in the order of the table, hidden ones too.
     std::vector<const Column*> tableColumnIdentifiers() const;
     std::vector<const Column*> visibleColumns() const;
+    /// Whether the user may turn a column off.
+    static bool canBeHidden(const Column& column);
+    void setColumnShown(const Column& column, bool shown);
 
     /// Whether the user may write notes into the table.
     void setAnnotationsEditable(bool editable) { m_model.setAnnotationsEditable(editable); }
@@ -89,7 +92,6 @@ private:
     void sortIndicatorDidChange(int column, Qt::SortOrder order);
     void showSortIndicator();
     void showHeaderMenu(const QPoint& position);
-    void setColumnShown(int column, bool shown);
     std::vector<bool> selectedRows() const;
     QModelIndex editableNote() const;
     void selectHighlightedNetworks();

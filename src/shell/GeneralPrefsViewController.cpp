@@ -1,0 +1,143 @@
+#include "shell/GeneralPrefsViewController.h"
+
+#include "foundation/Defaults.h"
+#include "foundation/Localized.h"
+#include "shell/GlyphIcon.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QSignalBlocker>
+#include <QSlider>
+
+namespace tessara {
+
+namespace {
+
+// The threshold in dBm, with its sign turned: at 100 what receivers barely hear is listed.
+constexpr int kLowestSensitivity = 30;
+constexpr int kHighestSensitivity = 100;
+constexpr int kSensitivityStep = 5;
+constexpr int kMargin = 18; // pixels
+
+struct Choice {
+    qint64 tag; ///< the value of the setting
+    const char* title;
+};
+constexpr Choice kUnits[] = {{0, "Percent"}, {1, "dBm"}};
+constexpr Choice kTimes[] = {{1, "1 minute"},   {2, "2 minutes"}, {3, "5 minutes"},
+                             {4, "30 minutes"}, {5, "1 hour"},    {6, "2 hours"}};
+
+QComboBox* makePopUp(std::span<const Choice> choices)
+{
+    auto* popUp = new QComboBox;
+    for (const Choice& choice : choices)
+        popUp->addItem(localized(choice.title), choice.tag);
+    return popUp;
+}
+
+void selectTag(QComboBox& popUp, qint64 tag)
+{
+    popUp.setCurrentIndex(popUp.findData(tag));
+}
+
+} // namespace
+
+GeneralPrefsViewController::GeneralPrefsViewController(QWidget* parent)
+    : PreferencesPane(parent)
+    , m_sensitivity(new QSlider(Qt::Horizontal))
+    , m_sensitivityLbl(new QLabel)
+    , m_units(makePopUp(kUnits))
+    , m_deleteIfNotSeen(new QCheckBox(localized("&Remove networks not seen for")))
+    , m_maxElapsedTimeNotSeen(makePopUp(kTimes))
+{
+    m_sensitivity->setRange(kLowestSensitivity, kHighestSensitivity);
+    m_sensitivity->setPageStep(kSensitivityStep);
+    m_sensitivity->setToolTip(localized("Networks with a weaker signal are not listed"));
+    m_sensitivityLbl->setMinimumWidth(fontMetrics().horizontalAdvance(localized("Highest")) +
+                                      kMargin);
+    m_maxElapsedTimeNotSeen->setAccessibleName(localized("Time until a network is removed"));
+
+    auto* sensitivity = new QHBoxLayout;
+    sensitivity->addWidget(m_sensitivity, 1);
+    sensitivity->addWidget(m_sensitivityLbl);
+    auto* removal = new QHBoxLayout;
+    removal->addWidget(m_deleteIfNotSeen);
+    removal->addWidget(m_maxElapsedTimeNotSeen);
+    removal->addStretch();
+    auto* form = new QFormLayout(this);
+    form->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    form->setLabelAlignment(Qt::AlignRight);
+    form->addRow(localized("&Sensitivity:"), sensitivity);
+    qobject_cast<QLabel*>(form->labelForField(sensitivity))->setBuddy(m_sensitivity);
+    form->addRow(localized("Show s&ignals in:"), m_units);
+    form->addRow(QString(), removal);
+    m_units->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
+
+    connect(m_sensitivity, &QSlider::valueChanged, this,
+            &GeneralPrefsViewController::sensitivityDidChange);
+    connect(m_units, &QComboBox::activated, this,
+            [this] { write(DefaultKey::Units, m_units->currentData()); });
+    connect(m_maxElapsedTimeNotSeen, &QComboBox::activated, this, [this] {
+        write(DefaultKey::MaxElapsedTimeNotSeen, m_maxElapsedTimeNotSeen->currentData());
+    });
+    connect(m_deleteIfNotSeen, &QCheckBox::clicked, this,
+            &GeneralPrefsViewController::deleteIfNotSeenDidChange);
+}
+
+QString GeneralPrefsViewController::toolbarItemLabel() const
+{
+    return localized("General");
+}
+
+QIcon GeneralPrefsViewController::toolbarItemImage() const
+{
+    return glyphIcon(Glyph::kScan);
+}
+
+void GeneralPrefsViewController::viewWillAppear()
+{
+    const Defaults& defaults = Defaults::standard();
+    const QSignalBlocker blocker(m_sensitivity);
+    m_sensitivity->setValue(static_cast<int>(defaults.integerForKey(DefaultKey::Sensitivity)));
+    showSensitivity(m_sensitivity->value());
+    selectTag(*m_units, defaults.integerForKey(DefaultKey::Units));
+    selectTag(*m_maxElapsedTimeNotSeen, defaults.integerForKey(DefaultKey::MaxElapsedTimeNotSeen));
+    m_deleteIfNotSeen->setChecked(defaults.boolForKey(DefaultKey::DeleteIfNotSeen));
+    m_maxElapsedTimeNotSeen->setEnabled(m_deleteIfNotSeen->isChecked());
+}
+
+void GeneralPrefsViewController::showSensitivity(int sensitivity)
+{
+    m_sensitivityLbl->setText(
+        sensitivity == kLowestSensitivity ? localized("Lowest")
+        : sensitivity == kHighestSensitivity
+            ? localized("Highest")
+            : QStringLiteral("%1 %2").arg(-sensitivity).arg(localized("dBm")));
+}
+
+void GeneralPrefsViewController::sensitivityDidChange(int sensitivity)
+{
+    showSensitivity(sensitivity);
+    write(DefaultKey::Sensitivity, sensitivity);
+}
+
+void GeneralPrefsViewController::deleteIfNotSeenDidChange(bool on)
+{
+    m_maxElapsedTimeNotSeen->setEnabled(on);
+    Defaults::standard().setValue(DefaultKey::DeleteIfNotSeen, on);
+    if (on) // the time counts from now on
+        Defaults::standard().setValue(DefaultKey::MaxElapsedTimeNotSeen,
+                                      m_maxElapsedTimeNotSeen->currentData());
+    Q_EMIT valuesDidChange();
+}
+
+void GeneralPrefsViewController::write(QStringView key, const QVariant& value)
+{
+    Defaults::standard().setValue(key, value);
+    Q_EMIT valuesDidChange();
+}
+
+} // namespace tessara
