@@ -3,42 +3,59 @@
 #include <QApplication>
 #include <QIconEngine>
 #include <QPainter>
-#include <QPainterPath>
 #include <QPalette>
-#include <QPen>
+#include <QPixmapCache>
+#include <QSvgRenderer>
 
 #include <algorithm>
+#include <cmath>
 
 namespace tessara {
 
 namespace {
 
-// Shapes lie in a square of this side.
-constexpr double kSide = 16;
-
-QPainterPath shapeOf(Glyph glyph)
+QString nameOf(Glyph glyph)
 {
-    QPainterPath path;
     switch (glyph) {
+    case Glyph::kAdvanced:
+        return QStringLiteral("advanced");
+    case Glyph::kCategory:
+        return QStringLiteral("category");
+    case Glyph::kDot:
+        return QStringLiteral("dot");
+    case Glyph::kGeneral:
+        return QStringLiteral("general");
+    case Glyph::kLock:
+        return QStringLiteral("lock");
+    case Glyph::kLowSignal:
+        return QStringLiteral("low-signal");
+    case Glyph::kPadlock:
+        return QStringLiteral("padlock");
     case Glyph::kScan:
-        path.addPolygon(QPolygonF({{4, 2.5}, {13.5, 8}, {4, 13.5}}));
-        path.closeSubpath();
-        break;
+        return QStringLiteral("scan");
+    case Glyph::kSearch:
+        return QStringLiteral("search");
     case Glyph::kStop:
-        path.addRect(3.5, 3.5, 9, 9);
-        break;
-    case Glyph::kSearch: {
-        QPainterPath lens;
-        lens.addEllipse(QPointF(6.5, 6.5), 4.5, 4.5);
-        QPainterPath glass;
-        glass.addEllipse(QPointF(6.5, 6.5), 3.5, 3.5);
-        path = lens.subtracted(glass);
-        path.addPolygon(QPolygonF({{9.6, 10.2}, {10.2, 9.6}, {14, 13.4}, {13.4, 14}}));
-        path.closeSubpath();
-        break;
+        return QStringLiteral("stop");
+    case Glyph::kTable:
+        return QStringLiteral("table");
+    case Glyph::kTag:
+        return QStringLiteral("tag");
     }
-    }
-    return path;
+    Q_UNREACHABLE();
+}
+
+/// The drawing in one colour, `side` pixels wide and high.
+QPixmap drawn(Glyph glyph, const QColor& color, int side)
+{
+    QSvgRenderer drawing(QStringLiteral(":/glyphs/%1.svg").arg(nameOf(glyph)));
+    QPixmap pixmap(side, side);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    drawing.render(&painter);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    painter.fillRect(pixmap.rect(), color);
+    return pixmap;
 }
 
 class GlyphIconEngine final : public QIconEngine {
@@ -50,35 +67,29 @@ public:
 
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override
     {
-        const auto group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
-        const auto role =
-            mode == QIcon::Selected ? QPalette::HighlightedText : QPalette::ButtonText;
-        const QColor color = QApplication::palette().color(group, role);
-        const double scale = std::min(rect.width(), rect.height()) / kSide;
-        painter->save();
-        painter->setRenderHint(QPainter::Antialiasing);
-        painter->translate(QRectF(rect).center());
-        painter->scale(scale, scale);
-        painter->translate(-kSide / 2, -kSide / 2);
-        // The pen rounds the corners.
-        painter->setPen(QPen(color, 1, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-        painter->setBrush(color);
-        painter->drawPath(shapeOf(m_glyph));
-        painter->restore();
+        const int side = std::min(rect.width(), rect.height());
+        const QPoint corner((rect.width() - side) / 2, (rect.height() - side) / 2);
+        const double ratio = painter->device()->devicePixelRatio();
+        painter->drawPixmap(rect.topLeft() + corner,
+                            glyphPixmap(m_glyph, colorIn(mode), side, ratio));
     }
 
-    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State) override
     {
-        QPixmap pixmap(size);
-        pixmap.fill(Qt::transparent);
-        QPainter painter(&pixmap);
-        paint(&painter, pixmap.rect(), mode, state);
-        return pixmap;
+        return glyphPixmap(m_glyph, colorIn(mode), std::min(size.width(), size.height()), 1);
     }
 
     QIconEngine* clone() const override { return new GlyphIconEngine(m_glyph); }
 
 private:
+    static QColor colorIn(QIcon::Mode mode)
+    {
+        const auto group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
+        const auto role =
+            mode == QIcon::Selected ? QPalette::HighlightedText : QPalette::ButtonText;
+        return QApplication::palette().color(group, role);
+    }
+
     Glyph m_glyph;
 };
 
@@ -87,6 +98,21 @@ private:
 QIcon glyphIcon(Glyph glyph)
 {
     return QIcon(new GlyphIconEngine(glyph));
+}
+
+QPixmap glyphPixmap(Glyph glyph, const QColor& color, int side, double devicePixelRatio)
+{
+    const QString key = QStringLiteral("glyph %1 %2 %3 %4")
+                            .arg(nameOf(glyph), color.name(QColor::HexArgb))
+                            .arg(side)
+                            .arg(devicePixelRatio);
+    QPixmap pixmap;
+    if (!QPixmapCache::find(key, &pixmap)) {
+        pixmap = drawn(glyph, color, static_cast<int>(std::ceil(side * devicePixelRatio)));
+        pixmap.setDevicePixelRatio(devicePixelRatio);
+        QPixmapCache::insert(key, pixmap);
+    }
+    return pixmap;
 }
 
 } // namespace tessara

@@ -10,6 +10,7 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QIcon>
 #include <QTextStream>
 
 using namespace tessara;
@@ -22,6 +23,7 @@ int main(int argc, char** argv)
     QApplication::setApplicationName(QStringLiteral("tessara"));
     QApplication::setApplicationVersion(QStringLiteral(TESSARA_VERSION));
     QApplication::setDesktopFileName(QStringLiteral("tessara"));
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/tessara.svg")));
     // The main window alone decides when the process ends.
     QApplication::setQuitOnLastWindowClosed(false);
 
