@@ -60,7 +60,7 @@ QString AdvancedPrefsViewController::toolbarItemLabel() const
 
 QIcon AdvancedPrefsViewController::toolbarItemImage() const
 {
-    return glyphIcon(Glyph::kStop);
+    return glyphIcon(Glyph::kAdvanced);
 }
 
 void AdvancedPrefsViewController::viewWillAppear()

@@ -67,7 +67,7 @@ QString ColumnsPrefsViewController::toolbarItemLabel() const
 
 QIcon ColumnsPrefsViewController::toolbarItemImage() const
 {
-    return glyphIcon(Glyph::kSearch);
+    return glyphIcon(Glyph::kTable);
 }
 
 void ColumnsPrefsViewController::viewWillAppear()

@@ -94,7 +94,7 @@ QString GeneralPrefsViewController::toolbarItemLabel() const
 
 QIcon GeneralPrefsViewController::toolbarItemImage() const
 {
-    return glyphIcon(Glyph::kScan);
+    return glyphIcon(Glyph::kGeneral);
 }
 
 void GeneralPrefsViewController::viewWillAppear()

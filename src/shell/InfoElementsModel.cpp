@@ -3,6 +3,7 @@
 #include "elements/FieldVisit.h"
 #include "foundation/Localized.h"
 #include "foundation/TextOrder.h"
+#include "shell/GlyphIcon.h"
 
 #include <QStringList>
 
@@ -275,6 +276,11 @@ QVariant InfoElementsModel::data(const QModelIndex& index, int role) const
     if (role == Qt::TextAlignmentRole)
         return int(index.column() <= kLengthColumn ? Qt::AlignRight | Qt::AlignVCenter
                                                    : Qt::AlignLeft | Qt::AlignVCenter);
+    if (role == Qt::DecorationRole)
+        return index.column() == kElementColumn && rowAt(index).kind == Row::Kind::kElement &&
+                       rowCount(index.siblingAtColumn(0)) > 0
+                   ? QVariant(glyphIcon(Glyph::kTag))
+                   : QVariant();
     if (role != Qt::DisplayRole)
         return {};
     QString text;

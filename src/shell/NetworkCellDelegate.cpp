@@ -5,6 +5,8 @@
 #include "model/ColumnRegistry.h"
 #include "model/SignalPercentage.h"
 #include "model/TSNetwork.h"
+#include "shell/GlyphIcon.h"
+#include "shell/LegibleColor.h"
 #include "shell/NetworksTableModel.h"
 #include "shell/ToolTipText.h"
 
@@ -23,6 +25,9 @@ namespace {
 
 constexpr int kRowPadding = 5;  // above and below the text together
 constexpr int kCellPadding = 3; // at the left and the right, beside the style's own
+constexpr int kPadlockRoom = 5; // beside the padlock's own
+constexpr int kPadlockGap = 2;  // between text and padlock
+constexpr double kPadlockAlpha = 0.6;
 
 /// What a level column shows of a network, in per cent, and how.
 struct LevelColumn {
@@ -78,15 +83,6 @@ bool hasFocus(const QStyleOptionViewItem& option)
            option.state.testFlag(QStyle::State_Active);
 }
 
-/// The text colour half way to the background: legible, and plainly not the normal one.
-QColor grayed(const QPalette& palette)
-{
-    const QColor text = palette.color(QPalette::Text);
-    const QColor base = palette.color(QPalette::Base);
-    return {(text.red() + base.red()) / 2, (text.green() + base.green()) / 2,
-            (text.blue() + base.blue()) / 2};
-}
-
 /// On light and dark palettes.
 QColor filteredCellColor(const QPalette& palette)
 {
@@ -106,6 +102,16 @@ int textMargin(const QStyleOptionViewItem& option)
     return option.widget->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, &option,
                                                option.widget) +
            1;
+}
+
+bool hasPadlock(const Column& column, const TSNetwork& network)
+{
+    return column.cell == CellKind::kTextAndImage && !network.isOpen();
+}
+
+int padlockSide(const QFontMetrics& metrics)
+{
+    return metrics.ascent();
 }
 
 const Column& columnOf(const QModelIndex& index)
@@ -136,7 +142,8 @@ void NetworkCellDelegate::initStyleOption(QStyleOptionViewItem* option,
                            network.isHidden());
     option->fontMetrics = QFontMetrics(option->font);
     if (m_model.isMissing(network))
-        option->palette.setColor(QPalette::Text, grayed(option->palette));
+        option->palette.setColor(
+            QPalette::Text, legible(TSThemeHelper::textColorForNetworkNotFound(), option->palette));
 }
 
 QString NetworkCellDelegate::displayText(const QVariant& value, const QLocale&) const
@@ -166,6 +173,9 @@ void NetworkCellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& o
     if (column.cell == CellKind::kLevel)
         paintLevel(*painter, cell, column, network);
 
+    if (hasPadlock(column, network))
+        paintPadlock(*painter, cell);
+
     // The text alone, over what is there.
     if (cell.state.testFlag(QStyle::State_Selected))
         cell.palette.setBrush(QPalette::Text, cell.palette.brush(QPalette::HighlightedText));
@@ -192,13 +202,29 @@ void NetworkCellDelegate::paintLevel(QPainter& painter, const QStyleOptionViewIt
     bar.drawWithFrame(painter, cell.rect, highlightOf(cell));
 }
 
+/// At the right end of the cell, which gets so much narrower.
+void NetworkCellDelegate::paintPadlock(QPainter& painter, QStyleOptionViewItem& cell)
+{
+    const int side = padlockSide(cell.fontMetrics);
+    const bool isSelected = cell.state.testFlag(QStyle::State_Selected);
+    const QColor color = isSelected ? cell.palette.color(QPalette::HighlightedText)
+                                    : withAlpha(cell.palette.color(QPalette::Text), kPadlockAlpha);
+    cell.rect.setRight(cell.rect.right() - side - kPadlockRoom);
+    const QPointF place(cell.rect.right() + kPadlockGap,
+                        cell.rect.top() + (cell.rect.height() - side) / 2.0);
+    painter.drawPixmap(
+        place, glyphPixmap(Glyph::kPadlock, color, side, painter.device()->devicePixelRatioF()));
+}
+
 QSize NetworkCellDelegate::sizeHint(const QStyleOptionViewItem& option,
                                     const QModelIndex& index) const
 {
     QStyleOptionViewItem styled = option;
     initStyleOption(&styled, index);
-    const QSize text(styled.fontMetrics.horizontalAdvance(styled.text) + 2 * kCellPadding,
-                     rowHeight(QFontMetrics(option.font)));
+    QSize text(styled.fontMetrics.horizontalAdvance(styled.text) + 2 * kCellPadding,
+               rowHeight(QFontMetrics(option.font)));
+    if (hasPadlock(columnOf(index), m_model.networkAt(index)))
+        text.rwidth() += padlockSide(styled.fontMetrics) + kPadlockRoom;
     if (columnOf(index).cell != CellKind::kLevel)
         return text;
     return TSLevelIndicatorCell::cellSizeForBounds(text, option.rect.size()).toSize();
@@ -219,7 +245,9 @@ bool NetworkCellDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view,
         return QStyledItemDelegate::helpEvent(event, view, option, index);
     QStyleOptionViewItem styled = option;
     initStyleOption(&styled, index);
-    const int room = option.rect.width() - 2 * (kCellPadding + textMargin(styled));
+    int room = option.rect.width() - 2 * (kCellPadding + textMargin(styled));
+    if (hasPadlock(columnOf(index), m_model.networkAt(index)))
+        room -= padlockSide(styled.fontMetrics) + kPadlockRoom;
     const bool isCut = styled.fontMetrics.horizontalAdvance(styled.text) > room;
     QToolTip::showText(event->globalPos(), isCut ? toolTipOf(styled.text) : QString(), view,
                        option.rect);

@@ -42,6 +42,7 @@ protected:
     void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override;
 
 private:
+    static void paintPadlock(QPainter& painter, QStyleOptionViewItem& cell);
     void paintLevel(QPainter& painter, const QStyleOptionViewItem& cell, const Column& column,
                     const TSNetwork& network) const;
 

@@ -3,6 +3,7 @@
 #include "charts/TSThemeHelper.h"
 #include "foundation/Localized.h"
 #include "shell/ColorWell.h"
+#include "shell/GlyphIcon.h"
 #include "shell/LegibleColor.h"
 #include "shell/NetworkDetailsText.h"
 #include "shell/ToolTipText.h"
@@ -120,6 +121,7 @@ void NetworkDetailsForm::makeForm()
     m_beaconInterval = addRow("Beacon Interval");
     addSpace();
     m_security = addRow("Security");
+    m_iconSecurityImg = addIcon(m_security, glyphIcon(Glyph::kLock));
     m_encryption = addRow("Encryption");
     m_wps = addRow("WPS");
     addSpace();
@@ -152,6 +154,8 @@ void NetworkDetailsForm::makeSignalRows()
     m_snr = addRow("SNR");
     m_snrAvgLbl = addStatistic(m_snr);
     m_signalQuality = addRow("Quality");
+    m_iconSignalQualityImg = addIcon(m_signalQuality, glyphIcon(Glyph::kLowSignal));
+    m_iconSignalQualityImg->setToolTip(localized("The signal is weak beside the noise"));
 }
 
 NetworkDetailsForm::Row NetworkDetailsForm::addRow(const char* caption)
@@ -162,6 +166,21 @@ NetworkDetailsForm::Row NetworkDetailsForm::addRow(const char* caption)
     m_grid->addWidget(row.value, place, kValue, 1, 2);
     row.value->setAccessibleName(localized(caption));
     return row;
+}
+
+/// Puts an icon before the value of the last row.
+QLabel* NetworkDetailsForm::addIcon(const Row& row, const QIcon& icon)
+{
+    auto* label = new QLabel;
+    const int side = fontMetrics().ascent();
+    label->setPixmap(icon.pixmap(side, side));
+    auto* both = new QHBoxLayout;
+    both->setSpacing(kMargin / 3);
+    m_grid->removeWidget(row.value);
+    both->addWidget(label);
+    both->addWidget(row.value, 1);
+    m_grid->addLayout(both, m_grid->rowCount() - 1, kValue, 1, 2);
+    return label;
 }
 
 void NetworkDetailsForm::addSpace()
@@ -197,6 +216,7 @@ void NetworkDetailsForm::fill(const TSNetwork& network, const CellContext& conte
     m_networkType.setText(text.networkType);
     m_beaconInterval.setText(text.beaconInterval);
     m_security.setText(text.security);
+    m_iconSecurityImg->setVisible(!network.isOpen());
     m_encryption.setText(text.encryption);
     m_wps.setText(text.wps);
     m_rates.setText(text.rates);
@@ -216,6 +236,7 @@ void NetworkDetailsForm::fillSignal(const TSNetwork& network, const CellContext&
 {
     const SignalQuality quality = signalQuality(network, context.isScanning);
     m_signalQuality.setText(localized(quality.text));
+    m_iconSignalQualityImg->setVisible(quality.isPoor);
     const QColor normal = palette().color(QPalette::WindowText);
     setTextColor(*m_signalQuality.value, quality.isMissing ? legible(Qt::red, palette()) : normal);
     const QColor reading =

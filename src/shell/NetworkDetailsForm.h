@@ -43,6 +43,7 @@ private:
     };
 
     Row addRow(const char* caption);
+    QLabel* addIcon(const Row& row, const QIcon& icon);
     void addSpace();
     void makeForm();
     void makeSignalRows();
@@ -64,6 +65,7 @@ private:
     QLabel* m_noiseAvgLbl = nullptr;
     QLabel* m_snrAvgLbl = nullptr;
     Row m_signalQuality{};
+    QLabel* m_iconSignalQualityImg = nullptr;
     Row m_band{};
     Row m_channel{};
     Row m_width{};
@@ -71,6 +73,7 @@ private:
     Row m_networkType{};
     Row m_beaconInterval{};
     Row m_security{};
+    QLabel* m_iconSecurityImg = nullptr;
     Row m_encryption{};
     Row m_wps{};
     Row m_rates{};

@@ -25,7 +25,8 @@ constexpr int kRoomBesideContents = 17; // pixels, of a column that is fitted to
 // The registry's widths are meant for a font of this size in points.
 constexpr double kWidthFont = 11;
 constexpr double kDefaultWidth = 80; // of a column that the registry leaves to the table
-constexpr int kFirstColumn = 1;      // behind the marker
+constexpr char kLongestTime[] = "2029/09/29 09:59:59 PM";
+constexpr int kFirstColumn = 1; // behind the marker
 
 std::span<const Column> columns()
 {
@@ -105,14 +106,17 @@ void TSNetworksView::setDefaultLayout()
     showSortIndicator();
 }
 
-/// In pixels: as the registry says, but wide enough for the title.
+/// In pixels: as the registry says, but wide enough for the title, and for a time.
 int TSNetworksView::defaultWidth(const Column& column) const
 {
     if (column.cell == CellKind::kMarker)
         return static_cast<int>(column.width);
     const double scale = QFontInfo(font()).pointSizeF() / kWidthFont;
     const double width = scale * (column.width > 0 ? column.width : kDefaultWidth);
-    return std::max(static_cast<int>(std::ceil(width)), header()->sectionSizeHint(indexOf(column)));
+    const int title = header()->sectionSizeHint(indexOf(column));
+    const bool isTime = column.identifier.endsWith(QLatin1String("SEEN"));
+    const int text = isTime ? fontMetrics().horizontalAdvance(QLatin1String(kLongestTime)) : 0;
+    return std::max({static_cast<int>(std::ceil(width)), title, text + kRoomBesideContents});
 }
 
 void TSNetworksView::setNetworks(const NetworkList& networks, const CellContext& context)

@@ -2,6 +2,8 @@
 
 #include "foundation/Localized.h"
 
+#include "shell/ImageAndTextCell.h"
+
 #include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -18,6 +20,9 @@ TSSideView::TSSideView(QWidget* parent)
 {
     setAccessibleName(localized("Results by kind"));
     setModel(&m_model);
+    setItemDelegate(new ImageAndTextCell(this));
+    setIndentation(fontMetrics().height());
+    setFrameShape(QFrame::NoFrame);
     setHeaderHidden(true);
     header()->setStretchLastSection(false);
     header()->setSectionResizeMode(SideViewModel::kItemColumn, QHeaderView::Stretch);
