@@ -1,4 +1,5 @@
 #include "cli/Command.h"
+#include "cli/DeviceNames.h"
 #include "cli/InputOptions.h"
 #include "cli/ListOptions.h"
 #include "cli/NetworksInput.h"
@@ -12,6 +13,7 @@ void addOptions(QCommandLineParser& parser)
 {
     addInputOptions(parser);
     addListOptions(parser);
+    addDeviceNamesOption(parser);
 }
 
 ExitStatus run(const QCommandLineParser& parser, const QStringList& arguments)
@@ -29,6 +31,7 @@ ExitStatus run(const QCommandLineParser& parser, const QStringList& arguments)
         complain(input.error);
         return kFailed;
     }
+    waitForDeviceNames(parser);
     DisplayPipeline pipeline;
     pipeline.setShownKinds(ShownKinds::fromDefaults(Defaults::standard()));
     pipeline.setSortDescriptors(options->sort);

@@ -1,4 +1,5 @@
 #include "cli/Command.h"
+#include "cli/DeviceNames.h"
 #include "cli/ListOptions.h"
 #include "cli/ScanSession.h"
 #include "foundation/Defaults.h"
@@ -19,6 +20,7 @@ namespace {
 void addOptions(QCommandLineParser& parser)
 {
     addListOptions(parser);
+    addDeviceNamesOption(parser);
     parser.addOptions({
         {QStringLiteral("interface"),
          QStringLiteral("Scan with this interface; 'recorded:FILE' plays FILE as one."),
@@ -83,6 +85,7 @@ ExitStatus run(const QCommandLineParser& parser, const QStringList& arguments)
         return kFailed; // why a recording cannot be played has been told
     }
 
+    searchDeviceNames(parser);
     // Goes before the runtime, which waits for the engine's thread: a second signal then ends the
     // program at once.
     const TerminationSignals signalsOfTheUser([] { QCoreApplication::quit(); });

@@ -52,7 +52,7 @@ std::vector<DefaultEntry> makeTable()
         {AutoUpdateVendorsDatabase, Type::Bool, none},
         {LastVendorsDatabaseCheck, Type::QDateTime, none},
         {SpeakOn, Type::Bool, none},
-        {SpeakIntervalInSeconds, Type::LongLong, none},
+        {SpeakIntervalInSeconds, Type::Double, none},
         {SpeakWhenOnBackground, Type::Bool, none},
         {Annotations, Type::QVariantMap, none},
         {SelectedPreferencesPane, Type::QString, none},

@@ -15,9 +15,11 @@
 #include "shell/NetworkDetailsForm.h"
 #include "shell/NetworkDetailsPane.h"
 #include "shell/RecentDocumentsMenu.h"
+#include "shell/SpeechMenu.h"
 #include "shell/TSNetworksView.h"
 #include "shell/TSSideView.h"
 
+#include <QApplication>
 #include <QEvent>
 
 #include <algorithm>
@@ -41,13 +43,17 @@ const FontSizeRange kFontSizes[] = {
 } // namespace
 
 AppDelegate::AppDelegate(WiFiService& wifi, TSVendorDatabaseHelper& vendors,
-                         TSAnnotationsHelper& annotations, EngineServices services)
+                         TSAnnotationsHelper& annotations, TSNetServiceBrowser& deviceNames,
+                         Voice& voice, EngineServices services)
     : m_window(services.clock)
     , m_scanCycle(chooseInterface(wifi), services, *this, m_prompt)
     , m_clock(services.clock)
     , m_document(*this, m_prompt, services.clock)
     , m_vendors(vendors)
     , m_annotations(annotations)
+    , m_deviceNames(deviceNames)
+    , m_voice(voice)
+    , m_spokenReports(voice, services.clock, [] { return QApplication::activeWindow() != nullptr; })
     , m_vendorsUpdate(vendors, m_prompt, services.clock)
     , m_exchange(m_window,
                  {m_scanCycle, m_pipeline, annotations, services.clock,
@@ -56,6 +62,7 @@ AppDelegate::AppDelegate(WiFiService& wifi, TSVendorDatabaseHelper& vendors,
 {
     m_window.installEventFilter(this);
     connectParts(services.notifications);
+    connectSpeech();
     updateWindowTitle();
     restoreWindowFrame();
 }
@@ -123,6 +130,19 @@ void AppDelegate::connectParts(NotificationCenter& notifications)
     connect(&notifications, &NotificationCenter::linkQualityDidChange, this,
             &AppDelegate::updateStateInfo, Qt::QueuedConnection);
     connect(&notifications, &NotificationCenter::willSleep, this, &AppDelegate::saveDefaults);
+}
+
+void AppDelegate::connectSpeech()
+{
+    SpeechMenu& menu = m_window.speechMenu();
+    connect(&menu, &SpeechMenu::speakTriggered, this, &AppDelegate::onSpeak);
+    connect(&m_voice, &Voice::speakingDidChange, &menu,
+            [this, &menu] { menu.setSpeaking(m_voice.isSpeaking()); });
+    connect(qApp, &QGuiApplication::applicationStateChanged, this,
+            [this](Qt::ApplicationState state) {
+                if (state == Qt::ApplicationActive)
+                    m_spokenReports.applicationDidBecomeActive();
+            });
 }
 
 // Start-up --------------------------------------------------------------------------------------
@@ -201,6 +221,7 @@ void AppDelegate::showWindow()
         showNoInterfaceAlert();
         return;
     }
+    m_deviceNames.searchServices();
     if (Defaults::standard().boolForKey(DefaultKey::RanOnce))
         checkVendorsDatabaseLater();
     if (!std::exchange(m_windowDidShowFirstTime, true))
@@ -480,6 +501,16 @@ void AppDelegate::configureSelectedTabView()
 {
     m_window.graphTabs().configureSelectedTabView(
         m_pipeline.filteredNetworks(), CellContext::fromDefaults(m_scanCycle.isScanning()));
+    m_spokenReports.setSelectedNetwork(selectedNetwork(m_pipeline.filteredNetworks()));
+    m_spokenReports.speakSoon();
+}
+
+void AppDelegate::onSpeak()
+{
+    if (m_voice.isSpeaking())
+        m_voice.stopSpeaking();
+    else
+        m_spokenReports.speak(m_spokenReports.selectedNetwork());
 }
 
 void AppDelegate::clearSideViewSelection()

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "enrichment/SpokenReports.h"
+#include "enrichment/TSNetServiceBrowser.h"
 #include "filtering/DisplayPipeline.h"
 #include "filtering/TSSideViewItem.h"
 #include "persistence/ResultsDocument.h"
@@ -23,9 +25,11 @@ class AppDelegate final : public QObject, private ScanCycleViews, private ShownR
 public:
     /// Builds the window and chooses the interface; nothing is visible yet.
     /// @param wifi where the interface comes from
+    /// @param deviceNames searched as soon as there is an interface
     /// @param services must outlive this, as the engines do
     AppDelegate(WiFiService& wifi, TSVendorDatabaseHelper& vendors,
-                TSAnnotationsHelper& annotations, EngineServices services);
+                TSAnnotationsHelper& annotations, TSNetServiceBrowser& deviceNames, Voice& voice,
+                EngineServices services);
 
     /// Reads the settings and shows the window; the first time, scanning may start by itself.
     /// @param file results to be shown instead; empty for none
@@ -72,6 +76,7 @@ private:
         m_scanCycle.didFindNetworks(networks, lastScanTime);
     }
 
+    void connectSpeech();
     void connectParts(NotificationCenter& notifications);
     void loadDefaults();
     void selectQuickFilter(QuickFilter filter);
@@ -92,6 +97,7 @@ private:
     void checkVendorsDatabaseLater();
     void configureNetworksView();
     void configureSelectedTabView();
+    void onSpeak();
     void configureSpectrumLabels();
     void configureSideView();
     void sideViewSelectionDidChange(const std::optional<TSSideViewItem>& item);
@@ -112,6 +118,9 @@ private:
     ResultsDocument m_document;
     TSVendorDatabaseHelper& m_vendors;
     TSAnnotationsHelper& m_annotations;
+    TSNetServiceBrowser& m_deviceNames;
+    Voice& m_voice;
+    SpokenReports m_spokenReports;
     VendorDatabaseUpdate m_vendorsUpdate;
     std::unique_ptr<RepeatingTimer> m_vendorsCheck; ///< until its first call
     ExchangeCommands m_exchange;

@@ -12,6 +12,7 @@
 #include "shell/HelpPage.h"
 #include "shell/IntervalMenu.h"
 #include "shell/RecentDocumentsMenu.h"
+#include "shell/SpeechMenu.h"
 #include "shell/TSNetworksView.h"
 #include "shell/TSSideView.h"
 
@@ -209,6 +210,8 @@ void MainWindow::makeMenus()
     scan.addSeparator();
     m_intervalMenu = new IntervalMenu(&scan);
     scan.addMenu(m_intervalMenu);
+    m_speechMenu = new SpeechMenu(&scan);
+    scan.addMenu(m_speechMenu);
 
     QMenu& view = *menuBar()->addMenu(localized("&View"));
     QAction* filter = view.addAction(localized("&Filter"), this, [this] {

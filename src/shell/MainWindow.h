@@ -22,6 +22,7 @@ class FilterField;
 class GraphTabs;
 class HelpPage;
 class IntervalMenu;
+class SpeechMenu;
 class TSNetworksView;
 class TSSideView;
 
@@ -39,6 +40,7 @@ public:
     GraphTabs& graphTabs() { return *m_graphTabs; }
     ActivityIndicator& activityIndicator() { return *m_activityIndicator; }
     IntervalMenu& intervalMenu() { return *m_intervalMenu; }
+    SpeechMenu& speechMenu() { return *m_speechMenu; }
 
     /// @param title what is shown
     /// @param hasUnsavedResults marks the title, and makes the results ones to be saved
@@ -126,6 +128,7 @@ private:
     QAction* m_exportSelected = nullptr;
     QAction* m_showTabs = nullptr;
     IntervalMenu* m_intervalMenu = nullptr;
+    SpeechMenu* m_speechMenu = nullptr;
     ActivityIndicator* m_activityIndicator = nullptr;
     ElidedLabel* m_info = nullptr;
     ElidedLabel* m_leftFooter = nullptr;

@@ -1,3 +1,4 @@
+#include "enrichment/TextToSpeechVoice.h"
 #include "foundation/Directories.h"
 #include "foundation/SettingsOptions.h"
 #include "foundation/TerminationSignals.h"
@@ -47,7 +48,10 @@ int main(int argc, char** argv)
     Directories::installed().vendors = &vendors;
     TSAnnotationsHelper& annotations = TSAnnotationsHelper::sharedAnnotations();
     Directories::installed().annotations = &annotations;
-    AppDelegate delegate(wifi, vendors, annotations, runtime.engineServices());
+    TSNetServiceBrowser& deviceNames = TSNetServiceBrowser::sharedBrowser();
+    Directories::installed().deviceNames = &deviceNames;
+    TextToSpeechVoice voice;
+    AppDelegate delegate(wifi, vendors, annotations, deviceNames, voice, runtime.engineServices());
     const TerminationSignals signalsOfTheUser([&delegate] { delegate.terminate(); });
     QObject::connect(
         &delegate, &AppDelegate::didTerminate, &application, [] { QApplication::exit(0); },

@@ -1,6 +1,6 @@
 #include "scanning/SleepWatcher.h"
 
-#include "scanning/StandInNetworkManager.h"
+#include "support/PrivateBus.h"
 
 #include <QDBusMessage>
 #include <QSignalSpy>

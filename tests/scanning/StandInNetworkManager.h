@@ -1,10 +1,10 @@
 #pragma once
 
+#include "support/PrivateBus.h"
+
 #include <QByteArrayList>
 #include <QDBusConnection>
 #include <QDBusVirtualObject>
-#include <QProcess>
-#include <QString>
 #include <QThread>
 
 #include <functional>
@@ -12,24 +12,6 @@
 #include <optional>
 
 namespace tessara {
-
-/// A message bus of the test's own.
-class PrivateBus {
-public:
-    PrivateBus();
-    ~PrivateBus();
-
-    QString address() const { return m_address; }
-    /// A connection of its own to the bus; closed by the destructor.
-    QDBusConnection connection();
-    /// Ends the bus under those connected to it.
-    void stop();
-
-private:
-    QProcess m_daemon;
-    QString m_address;
-    QStringList m_names;
-};
 
 /// Plays NetworkManager with one Wi-Fi device, wlan0, on a bus and on a thread of its own. How it
 /// answers a request to scan is the test's to say.

@@ -1,6 +1,8 @@
 #include "shell/AppDelegate.h"
 
 #include "charts/TSSignalStrengthView.h"
+#include "enrichment/FakeNetServices.h"
+#include "enrichment/RecordingVoice.h"
 #include "foundation/Defaults.h"
 #include "foundation/Directories.h"
 #include "persistence/ResultsFile.h"
@@ -85,7 +87,7 @@ protected:
     void launch(const QString& file = {})
     {
         delegate = std::make_unique<AppDelegate>(
-            service, vendors, annotations,
+            service, vendors, annotations, deviceNames, voice,
             EngineServices{clock, pause, notifications,
                            [this](auto body) { bodies.push_back(std::move(body)); }});
         delegate->applicationWillFinishLaunching(file);
@@ -197,6 +199,9 @@ protected:
     TSVendorDatabaseHelper vendors{
         {.database = directory.filePath(QStringLiteral("vendors.plist"))}};
     TSAnnotationsHelper annotations{directory.filePath(QStringLiteral("annotations.plist"))};
+    FakeNetServices netServices;
+    TSNetServiceBrowser deviceNames{netServices, clock};
+    RecordingVoice voice;
     std::unique_ptr<AppDelegate> delegate;
 };
 
@@ -370,6 +375,7 @@ TEST_F(AppDelegateTest, EndsWithAMessageWhereThereIsNoWiFi)
 {
     service.wifi = nullptr;
     launch();
+    EXPECT_EQ(netServices.searches, 0);
     EXPECT_FALSE(delegate->scanCycle().isScanning());
     ASSERT_EQ(sheets().size(), 1);
     EXPECT_EQ(sheets().front()->text(), QStringLiteral("Unable to scan for wireless networks."));
@@ -558,6 +564,59 @@ TEST_F(AppDelegateTest, CopiesTheSelectedRowsWithTheKeyboardInTheTable)
     EXPECT_EQ(text.count(QStringLiteral("\n\nBSSID: ")), 1);
     EXPECT_FALSE(text.contains(QStringLiteral("Noise"))) << "a hidden column";
     EXPECT_TRUE(clipboard.mimeData()->hasFormat(QStringLiteral("text/rtf")));
+}
+
+TEST_F(AppDelegateTest, ShowsTheNamesThatDevicesTell)
+{
+    Directories::installed().deviceNames = &deviceNames;
+    launch();
+    EXPECT_EQ(netServices.searches, 1);
+    engineScans({named("0:1c:b3:0:0:2", "Attic")});
+    EXPECT_EQ(cell(0, u"DEVICE_NAME"), QString());
+    netServices.find(QStringLiteral("Büro"), false);
+    netServices.answer({"waMA=raMA=00-1C-B3-00-00-02"});
+    tick();
+    EXPECT_EQ(cell(0, u"DEVICE_NAME"), QStringLiteral("Büro"));
+}
+
+TEST_F(AppDelegateTest, SpeaksOfTheSelectedNetworkAsTheMenuAsks)
+{
+    Defaults::standard().setValue(DefaultKey::Units, 1);
+    launch();
+    engineScans({named("0:0:0:0:0:1", "Attic"), named("0:0:0:0:0:2", "Cellar")});
+    ASSERT_TRUE(window().isActiveWindow());
+    const auto select = [this](const QString& name) {
+        table().selectNetworks([&](const TSNetwork& each) { return each.ssid() == name; });
+        Q_EMIT table().selectionDidChange();
+        clock.advance(0.4);
+    };
+    auto& speakMenuItem = *window().findChild<QAction*>(QStringLiteral("speakMenuItem"));
+    select(QStringLiteral("Attic"));
+    EXPECT_FALSE(speakMenuItem.isEnabled());
+    EXPECT_THAT(voice.said, ElementsAre()) << "it is off until the user wants it";
+
+    action("Speak the &Signal of the Selected Network").trigger();
+    EXPECT_EQ(speakMenuItem.text(), QStringLiteral("Speak &Now"));
+    speakMenuItem.trigger();
+    EXPECT_THAT(voice.said, ElementsAre("Attic , channel 1, neg 60"));
+    EXPECT_EQ(speakMenuItem.text(), QStringLiteral("S&top Speaking"));
+    speakMenuItem.trigger();
+    EXPECT_FALSE(voice.isSpeaking());
+    EXPECT_EQ(speakMenuItem.text(), QStringLiteral("Speak &Now"));
+
+    action("After 10 Seconds").trigger();
+    EXPECT_EQ(Defaults::standard().doubleForKey(DefaultKey::SpeakIntervalInSeconds), 10);
+    clock.advance(10);
+    tick();
+    clock.advance(0.4);
+    EXPECT_EQ(voice.said.back(), "no change,  neg 60");
+    select(QStringLiteral("Cellar"));
+    EXPECT_EQ(voice.said.back(), "Cellar , channel 1, neg 60");
+    voice.finish();
+
+    Q_EMIT qApp->applicationStateChanged(Qt::ApplicationActive);
+    EXPECT_EQ(voice.said.size(), 4U) << "the user is back, and hears the name again";
+    EXPECT_EQ(voice.said.back(), "Cellar , channel 1, neg 60");
 }
 
 TEST_F(AppDelegateTest, SavesResultsAndOpensThemAgain)
