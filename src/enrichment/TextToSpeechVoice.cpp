@@ -8,9 +8,9 @@ namespace tessara {
 
 void TextToSpeechVoice::startSpeakingString(const QString& text)
 {
-    if (!m_engine)
+    if (!std::exchange(m_hasLookedForEngine, true))
         startEngine();
-    if (m_engine->state() == QTextToSpeech::Error)
+    if (!m_engine)
         return;
     setSpeaking(true);
     m_engine->say(text);
@@ -26,16 +26,19 @@ void TextToSpeechVoice::stopSpeaking()
 
 void TextToSpeechVoice::startEngine()
 {
-    m_engine = std::make_unique<QTextToSpeech>(); // the one that Qt prefers
-    QStringList others = QTextToSpeech::availableEngines();
-    others.removeOne(m_engine->engine());
-    while (m_engine->state() == QTextToSpeech::Error && !others.isEmpty())
-        m_engine->setEngine(others.takeFirst());
-    if (m_engine->state() == QTextToSpeech::Error)
-        qCInfo(lcEnrichment, "No speech engine answers: nothing is said. (%s)",
-               qUtf8Printable(m_engine->errorString()));
-    connect(m_engine.get(), &QTextToSpeech::stateChanged, this,
-            &TextToSpeechVoice::engineStateDidChange);
+    QStringList names = QTextToSpeech::availableEngines();
+    if (!names.isEmpty())
+        names.prepend(QString()); // the one that Qt prefers
+    for (const QString& name : names) {
+        auto engine = std::make_unique<QTextToSpeech>(name);
+        if (engine->state() == QTextToSpeech::Error)
+            continue;
+        connect(engine.get(), &QTextToSpeech::stateChanged, this,
+                &TextToSpeechVoice::engineStateDidChange);
+        m_engine = std::move(engine);
+        return;
+    }
+    qCInfo(lcEnrichment, "There is no speech engine: nothing is said.");
 }
 
 void TextToSpeechVoice::engineStateDidChange(QTextToSpeech::State state)

@@ -23,8 +23,9 @@ private:
     void engineStateDidChange(QTextToSpeech::State state);
     void setSpeaking(bool speaking);
 
-    std::unique_ptr<QTextToSpeech> m_engine; ///< none before the first text
-    bool m_isSpeaking = false;               ///< from the request on, which the engine lags behind
+    std::unique_ptr<QTextToSpeech> m_engine; ///< none before the first text, or at all
+    bool m_hasLookedForEngine = false;
+    bool m_isSpeaking = false; ///< from the request on, which the engine lags behind
 };
 
 } // namespace tessara

@@ -7,6 +7,8 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
+
 using namespace tessara;
 using testing::ElementsAre;
 using testing::IsEmpty;
