@@ -71,7 +71,8 @@ ExitStatus run(const QCommandLineParser& parser, const QStringList& arguments)
         return wrongUsage(QStringLiteral("--watch shows a table: it goes with no other format"));
 
     ScanRuntime runtime;
-    TerminationSignals::block(); // for the threads that the service starts
+    TerminationSignals::block(); // for the threads that these start
+    searchDeviceNames(parser);
     SystemWiFiService service(runtime.clock(), runtime.pause(), runtime.notifications());
     TerminationSignals::unblock(); // to read a recording may take long
     const QString name = parser.value(QStringLiteral("interface"));
@@ -85,7 +86,6 @@ ExitStatus run(const QCommandLineParser& parser, const QStringList& arguments)
         return kFailed; // why a recording cannot be played has been told
     }
 
-    searchDeviceNames(parser);
     // Goes before the runtime, which waits for the engine's thread: a second signal then ends the
     // program at once.
     const TerminationSignals signalsOfTheUser([] { QCoreApplication::quit(); });

@@ -19,8 +19,8 @@
 #include "shell/TSNetworksView.h"
 #include "shell/TSSideView.h"
 
-#include <QApplication>
 #include <QEvent>
+#include <QGuiApplication>
 
 #include <algorithm>
 
@@ -53,7 +53,8 @@ AppDelegate::AppDelegate(WiFiService& wifi, TSVendorDatabaseHelper& vendors,
     , m_annotations(annotations)
     , m_deviceNames(deviceNames)
     , m_voice(voice)
-    , m_spokenReports(voice, services.clock, [] { return QApplication::activeWindow() != nullptr; })
+    , m_spokenReports(voice, services.clock,
+                      [] { return QGuiApplication::focusWindow() != nullptr; })
     , m_vendorsUpdate(vendors, m_prompt, services.clock)
     , m_exchange(m_window,
                  {m_scanCycle, m_pipeline, annotations, services.clock,

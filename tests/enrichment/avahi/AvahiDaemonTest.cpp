@@ -83,14 +83,16 @@ TEST_F(AvahiDaemonTest, NamesStandInTheTable)
     recording.close();
     const QString command =
         QStringLiteral("HOME=%1 " TESSARA_CLI " networks %2 --sort BSSID --format csv "
-                       "--columns BSSID,DEVICE_NAME --default DeleteIfNotSeen=false")
-            .arg(folder.path(), recording.fileName());
+                       "--columns BSSID,DEVICE_NAME --default DeleteIfNotSeen=false %3; echo $?");
     const auto table = QStringLiteral("BSSID,Device Name\n"
                                       "00:1C:B3:00:00:02,%1\n00:1C:B3:00:00:03,%1\n"
-                                      "00:1C:B3:00:00:04,%2\n00:1C:B3:00:00:05,\n");
-    EXPECT_EQ(kernel::outputOf(command + QStringLiteral(" --device-names")),
-              table.arg(u'"' + office + u'"', longest));
-    EXPECT_EQ(kernel::outputOf(command), table.arg(QString(), QString())) << "unless asked for";
+                                      "00:1C:B3:00:00:04,%2\n00:1C:B3:00:00:05,\n0\n");
+    const auto printed = [&](const char* option) {
+        return kernel::outputOf(
+            command.arg(folder.path(), recording.fileName(), QString::fromLatin1(option)));
+    };
+    EXPECT_EQ(printed("--device-names"), table.arg(u'"' + office + u'"', longest));
+    EXPECT_EQ(printed(""), table.arg(QString(), QString())) << "unless asked for";
 }
 
 TEST_F(AvahiDaemonTest, ASearchSurvivesTheDaemonsRestart)
