@@ -1,11 +1,14 @@
 // The whole window: how long a tick keeps the main thread from its events, how long opening and
 // saving a large file do, and the memory that an hour of scanning takes.
+#include "enrichment/FakeNetServices.h"
+#include "enrichment/RecordingVoice.h"
 #include "foundation/Defaults.h"
 #include "foundation/Directories.h"
 #include "persistence/ResultsFile.h"
 #include "scanning/ScriptedInterface.h"
 #include "shell/AppDelegate.h"
 #include "shell/GraphTabs.h"
+#include "shell/MainMenu.h"
 #include "support/ManualClock.h"
 
 #include <QApplication>
@@ -69,7 +72,7 @@ public:
             m_folder.filePath(QStringLiteral("tessara.conf")), QSettings::IniFormat));
         Defaults::standard().setValue(DefaultKey::SaveAlertSupressionButton, 1);
         m_delegate = std::make_unique<AppDelegate>(
-            m_service, m_vendors, m_annotations,
+            m_service, m_vendors, m_annotations, m_deviceNames, m_voice,
             EngineServices{m_clock, m_pause, m_notifications,
                            [this](auto body) { m_bodies.push_back(std::move(body)); }});
         m_delegate->applicationWillFinishLaunching();
@@ -125,6 +128,9 @@ private:
     TSVendorDatabaseHelper m_vendors{
         {.database = m_folder.filePath(QStringLiteral("vendors.plist"))}};
     TSAnnotationsHelper m_annotations{m_folder.filePath(QStringLiteral("annotations.plist"))};
+    FakeNetServices m_netServices;
+    TSNetServiceBrowser m_deviceNames{m_netServices, m_clock};
+    RecordingVoice m_voice;
     std::vector<std::function<void()>> m_bodies;
     std::mt19937 m_random; // NOLINT(cert-msc51-cpp): the same networks at each run
     std::unique_ptr<AppDelegate> m_delegate;
@@ -238,7 +244,7 @@ void pauses(benchmark::State& state)
         if (application.networks().size() != kNetworks)
             qFatal("the file is not shown");
         state.counters["save_ms"] = 1000 * longestPause(application, [&] {
-                                        Q_EMIT application.window().saveAsRequested();
+                                        Q_EMIT application.window().menu().saveAsRequested();
                                         auto* panel =
                                             application.window().findChild<QFileDialog*>();
                                         panel->selectFile(application.path("copy.tessara"));

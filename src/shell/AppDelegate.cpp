@@ -12,6 +12,7 @@
 #include "shell/GraphTabs.h"
 #include "shell/IntervalMenu.h"
 #include "shell/MASPreferencesWindowController.h"
+#include "shell/MainMenu.h"
 #include "shell/NetworkDetailsForm.h"
 #include "shell/NetworkDetailsPane.h"
 #include "shell/RecentDocumentsMenu.h"
@@ -56,6 +57,7 @@ AppDelegate::AppDelegate(WiFiService& wifi, TSVendorDatabaseHelper& vendors,
     , m_spokenReports(voice, services.clock,
                       [] { return QGuiApplication::focusWindow() != nullptr; })
     , m_vendorsUpdate(vendors, m_prompt, services.clock)
+    , m_applicationUpdate(m_prompt, services.clock)
     , m_exchange(m_window,
                  {m_scanCycle, m_pipeline, annotations, services.clock,
                   [this] { return m_document.hasUnsavedResults(); }},
@@ -63,6 +65,7 @@ AppDelegate::AppDelegate(WiFiService& wifi, TSVendorDatabaseHelper& vendors,
 {
     m_window.installEventFilter(this);
     connectParts(services.notifications);
+    connectMenu();
     connectSpeech();
     updateWindowTitle();
     restoreWindowFrame();
@@ -70,21 +73,12 @@ AppDelegate::AppDelegate(WiFiService& wifi, TSVendorDatabaseHelper& vendors,
 
 void AppDelegate::connectParts(NotificationCenter& notifications)
 {
-    connect(&m_window, &MainWindow::openRequested, &m_document, &ResultsDocument::onFileOpen);
-    connect(&m_window, &MainWindow::saveAsRequested, &m_document, &ResultsDocument::onFileSaveAs);
     connect(&m_window, &MainWindow::fileRequested, this, &AppDelegate::openFile);
     connect(&m_document, &ResultsDocument::titleDidChange, this, &AppDelegate::configureAll);
     connect(&m_document, &ResultsDocument::fileDidOpen, this, &RecentDocumentsMenu::addDocument);
-    connect(&m_window, &MainWindow::preferencesRequested, this,
-            [this] { showPreferencesWithIdentifier({}); });
-    connect(&m_window, &MainWindow::scanRequested, this,
-            [this] { m_document.doAfterSaving([this] { m_scanCycle.doStart(); }); });
-    connect(&m_window, &MainWindow::stopRequested, &m_scanCycle, &ScanCycle::doStop);
     connect(&m_window, &MainWindow::quickFilterSelected, this, &AppDelegate::selectQuickFilter);
     connect(&m_window, &MainWindow::filterChanged, this, &AppDelegate::onFilter);
     connect(&m_window, &MainWindow::filterUsingKeys, this, &AppDelegate::handleFilterUsingKeys);
-    connect(&m_window.intervalMenu(), &IntervalMenu::intervalsTriggered, this,
-            &AppDelegate::onIntervals);
 
     const TSNetworksView& table = m_window.networksView();
     connect(&table, &TSNetworksView::sortDescriptorsDidChange, this,
@@ -100,20 +94,7 @@ void AppDelegate::connectParts(NotificationCenter& notifications)
     form.setVendorURL([this](const QString& vendor) { return m_vendors.urlForVendor(vendor); });
     connect(&form, &NetworkDetailsForm::didSelectColor, this, &AppDelegate::userDidSelectColor);
 
-    using Exchange = ExchangeCommands;
-    connect(&m_window, &MainWindow::fileMenuWillShow, &m_exchange, &Exchange::validateMenuItems);
-    connect(&m_window, &MainWindow::exportAllNetworksRequested, &m_exchange,
-            &Exchange::onFileSummaryExportAllNetworks);
-    connect(&m_window, &MainWindow::exportDisplayedNetworksRequested, &m_exchange,
-            &Exchange::onFileSummaryExportDisplayedNetworks);
-    connect(&m_window, &MainWindow::exportSelectedNetworksRequested, &m_exchange,
-            &Exchange::onFileSummaryExportSelectedNetworks);
-    connect(&m_window, &MainWindow::exportAnnotationsRequested, &m_exchange,
-            &Exchange::onFileAnnotationsExportCSV);
-    connect(&m_window, &MainWindow::importAnnotationsRequested, &m_exchange,
-            &Exchange::onFileAnnotationsImportCSV);
-    connect(&m_window, &MainWindow::copyRequested, &m_exchange, &Exchange::copy);
-    connect(&m_exchange, &Exchange::annotationsDidChange, this, &AppDelegate::configureAll);
+    connect(&m_exchange, &ExchangeCommands::annotationsDidChange, this, &AppDelegate::configureAll);
     connect(&table, &TSNetworksView::selectionDidChange, this,
             &AppDelegate::configureSelectedTabView);
 
@@ -133,9 +114,63 @@ void AppDelegate::connectParts(NotificationCenter& notifications)
     connect(&notifications, &NotificationCenter::willSleep, this, &AppDelegate::saveDefaults);
 }
 
+void AppDelegate::connectMenu()
+{
+    const MainMenu& menu = m_window.menu();
+    using Menu = MainMenu;
+    using Exchange = ExchangeCommands;
+    connect(&menu, &Menu::openRequested, &m_document, &ResultsDocument::onFileOpen);
+    connect(&menu, &Menu::saveAsRequested, &m_document, &ResultsDocument::onFileSaveAs);
+    connect(&menu, &Menu::fileMenuWillShow, &m_exchange, &Exchange::validateMenuItems);
+    connect(&menu, &Menu::exportAllNetworksRequested, &m_exchange,
+            &Exchange::onFileSummaryExportAllNetworks);
+    connect(&menu, &Menu::exportDisplayedNetworksRequested, &m_exchange,
+            &Exchange::onFileSummaryExportDisplayedNetworks);
+    connect(&menu, &Menu::exportSelectedNetworksRequested, &m_exchange,
+            &Exchange::onFileSummaryExportSelectedNetworks);
+    connect(&menu, &Menu::exportAnnotationsRequested, &m_exchange,
+            &Exchange::onFileAnnotationsExportCSV);
+    connect(&menu, &Menu::importAnnotationsRequested, &m_exchange,
+            &Exchange::onFileAnnotationsImportCSV);
+    connect(&menu, &Menu::copyRequested, &m_exchange, &Exchange::copy);
+    connect(&menu, &Menu::preferencesRequested, this,
+            [this] { showPreferencesWithIdentifier({}); });
+    connect(&menu, &Menu::scanRequested, this,
+            [this] { m_document.doAfterSaving([this] { m_scanCycle.doStart(); }); });
+    connect(&menu, &Menu::stopRequested, &m_scanCycle, &ScanCycle::doStop);
+    connect(&m_window.menu().intervalMenu(), &IntervalMenu::intervalsTriggered, this,
+            &AppDelegate::onIntervals);
+    connect(&menu, &Menu::organizeNetworksByRequested, this,
+            &AppDelegate::onViewOrganizeNetworksBy);
+    connect(&menu, &Menu::makeTextRequested, this, &AppDelegate::onViewMakeText);
+    connect(&menu, &Menu::checkForUpdatesRequested, &m_applicationUpdate,
+            &ApplicationUpdate::checkForUpdates);
+}
+
+void AppDelegate::onViewOrganizeNetworksBy()
+{
+    // The table is flat for now, whatever is chosen.
+    Defaults::standard().setValue(DefaultKey::OrganizeNetworksBy, 0);
+    filterAndSetNetworks(m_pipeline.networks());
+    configureAll();
+}
+
+void AppDelegate::onViewMakeText(double step)
+{
+    constexpr double kSmallest = 9.0;
+    constexpr double kLargest = 18.0;
+    Defaults& defaults = Defaults::standard();
+    for (const FontSizeRange& range : kFontSizes) {
+        defaults.setValue(range.key,
+                          std::clamp(defaults.doubleForKey(range.key) + step, kSmallest, kLargest));
+    }
+    m_window.sideView().setFontSize(defaults.doubleForKey(DefaultKey::SideViewFontSize));
+    configureAll();
+}
+
 void AppDelegate::connectSpeech()
 {
-    SpeechMenu& menu = m_window.speechMenu();
+    SpeechMenu& menu = m_window.menu().speechMenu();
     connect(&menu, &SpeechMenu::speakTriggered, this, &AppDelegate::onSpeak);
     connect(&m_voice, &Voice::speakingDidChange, &menu,
             [this, &menu] { menu.setSpeaking(m_voice.isSpeaking()); });
@@ -212,7 +247,7 @@ void AppDelegate::showWindow()
     updateStateInfo();
     if (m_window.isActiveWindow())
         return;
-    m_window.intervalMenu().selectInterval(
+    m_window.menu().intervalMenu().selectInterval(
         Defaults::standard().integerForKey(DefaultKey::SelectedScanInterval));
     onIntervals();
     m_window.show();
@@ -596,7 +631,7 @@ void AppDelegate::showWindowTitle()
 void AppDelegate::validateScanStopItems()
 {
     const bool isScanning = m_scanCycle.isScanning();
-    m_window.setScanStopEnabled(!isScanning, isScanning);
+    m_window.menu().setScanStopEnabled(!isScanning, isScanning);
 }
 
 void AppDelegate::setLeftFooterVisible(bool visible)

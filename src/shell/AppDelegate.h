@@ -4,6 +4,7 @@
 #include "enrichment/TSNetServiceBrowser.h"
 #include "filtering/DisplayPipeline.h"
 #include "filtering/TSSideViewItem.h"
+#include "persistence/ApplicationUpdate.h"
 #include "persistence/ResultsDocument.h"
 #include "persistence/VendorDatabaseUpdate.h"
 #include "scanning/ScanCycle.h"
@@ -76,7 +77,10 @@ private:
         m_scanCycle.didFindNetworks(networks, lastScanTime);
     }
 
+    void connectMenu();
     void connectSpeech();
+    void onViewOrganizeNetworksBy();
+    void onViewMakeText(double step);
     void connectParts(NotificationCenter& notifications);
     void loadDefaults();
     void selectQuickFilter(QuickFilter filter);
@@ -122,6 +126,7 @@ private:
     Voice& m_voice;
     SpokenReports m_spokenReports;
     VendorDatabaseUpdate m_vendorsUpdate;
+    ApplicationUpdate m_applicationUpdate;
     std::unique_ptr<RepeatingTimer> m_vendorsCheck; ///< until its first call
     ExchangeCommands m_exchange;
     bool m_windowDidShowFirstTime = false;

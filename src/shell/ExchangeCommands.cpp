@@ -2,6 +2,7 @@
 
 #include "persistence/ClipboardText.h"
 #include "shell/FilePanel.h"
+#include "shell/MainMenu.h"
 #include "shell/MainWindow.h"
 #include "shell/TSNetworksView.h"
 
@@ -70,8 +71,8 @@ void ExchangeCommands::exportNetworks(NetworkList (ExchangeCommands::*networks)(
 void ExchangeCommands::validateMenuItems()
 {
     const NetworkList& displayed = m_sources.pipeline.filteredNetworks();
-    m_window.setExportEnabled(!m_sources.scanCycle.networks().empty(), !displayed.empty(),
-                              std::ranges::any_of(displayed, isSelected));
+    m_window.menu().setExportEnabled(!m_sources.scanCycle.networks().empty(), !displayed.empty(),
+                                     std::ranges::any_of(displayed, isSelected));
 }
 
 // Annotations -----------------------------------------------------------------------------------

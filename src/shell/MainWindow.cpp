@@ -7,17 +7,12 @@
 #include "shell/ActivityIndicator.h"
 #include "shell/ElidedLabel.h"
 #include "shell/FilterField.h"
-#include "shell/GlyphIcon.h"
 #include "shell/GraphTabs.h"
-#include "shell/HelpPage.h"
-#include "shell/IntervalMenu.h"
-#include "shell/RecentDocumentsMenu.h"
-#include "shell/SpeechMenu.h"
+#include "shell/MainMenu.h"
+#include "shell/TSAdvancedDetailsView.h"
 #include "shell/TSNetworksView.h"
 #include "shell/TSSideView.h"
 
-#include <QAction>
-#include <QActionGroup>
 #include <QApplication>
 #include <QComboBox>
 #include <QDropEvent>
@@ -25,8 +20,6 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLayout>
-#include <QMenuBar>
-#include <QMessageBox>
 #include <QMimeData>
 #include <QScreen>
 #include <QSplitter>
@@ -97,6 +90,7 @@ MainWindow::MainWindow(const Clock& clock)
     , m_sideView(new TSSideView)
     , m_networksView(new TSNetworksView)
     , m_graphTabs(new GraphTabs(clock))
+    , m_menu(new MainMenu(*m_networksView, *m_graphTabs, this))
 {
     m_networksView->setMinimumHeight(kSmallestTable);
     m_tabsSplitter->addWidget(m_networksView);
@@ -111,11 +105,11 @@ MainWindow::MainWindow(const Clock& clock)
     setCentralWidget(m_splitter);
     setAcceptDrops(true);
     setContextMenuPolicy(Qt::NoContextMenu); // it would offer to hide the toolbar
-    makeActions();
+    setMenuBar(m_menu);
+    connectMenu();
     makeQuickFilter();
     makeFilter();
     makeToolBar();
-    makeMenus();
     makeFooter();
     setMinimumSize(kSmallestSize);
     resize(kFreshSize);
@@ -125,18 +119,23 @@ MainWindow::MainWindow(const Clock& clock)
     installEventFilter(m_graphTabs);
 }
 
-void MainWindow::makeActions()
+void MainWindow::connectMenu()
 {
-    m_scan = new QAction(glyphIcon(Glyph::kScan), localized("Scan"), this);
-    m_scan->setShortcuts({QKeySequence(Qt::CTRL | Qt::Key_R), QKeySequence(Qt::Key_F5)});
-    m_scan->setToolTip(localized("Start a scan"));
-    connect(m_scan, &QAction::triggered, this, &MainWindow::scanRequested);
-
-    m_stop = new QAction(glyphIcon(Glyph::kStop), localized("Stop"), this);
-    m_stop->setShortcuts(
-        {QKeySequence(Qt::CTRL | Qt::Key_Period), QKeySequence(Qt::SHIFT | Qt::Key_F5)});
-    m_stop->setToolTip(localized("Stop a scan"));
-    connect(m_stop, &QAction::triggered, this, &MainWindow::stopRequested);
+    connect(m_menu, &MainMenu::fileRequested, this, &MainWindow::fileRequested);
+    connect(m_menu, &MainMenu::quitRequested, this, &QWidget::close);
+    connect(m_menu, &MainMenu::quickFilterSelected, this, &MainWindow::quickFilterSelected);
+    connect(m_menu, &MainMenu::filterFieldRequested, this, [this] {
+        m_filter->setFocus(Qt::ShortcutFocusReason);
+        m_filter->selectAll();
+    });
+    connect(&m_menu->sideViewItem(), &QAction::triggered, this, &MainWindow::setSideViewShown);
+    connect(&m_menu->lowerHalfItem(), &QAction::triggered, this, &MainWindow::setTabsShown);
+    connect(m_splitter, &QSplitter::splitterMoved, this, &MainWindow::validateAreaItems);
+    connect(m_tabsSplitter, &QSplitter::splitterMoved, this, &MainWindow::validateAreaItems);
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
+        if (now) // two views copy nothing at this command
+            m_menu->setCopyEnabled(now != m_sideView && now != &m_graphTabs->advancedDetailsView());
+    });
 }
 
 void MainWindow::makeToolBar()
@@ -150,8 +149,8 @@ void MainWindow::makeToolBar()
 
     m_activityIndicator = new ActivityIndicator;
     m_info = new ElidedLabel;
-    bar.addAction(m_scan);
-    bar.addAction(m_stop);
+    bar.addAction(&m_menu->scanItem());
+    bar.addAction(&m_menu->stopItem());
     bar.addWidget(makeSpace(side / 2));
     bar.addWidget(m_activityIndicator);
     bar.addWidget(makeSpace(side / 2));
@@ -168,14 +167,8 @@ void MainWindow::makeQuickFilter()
     m_quickFilter->setObjectName(QStringLiteral("QuickFilter"));
     m_quickFilter->setAccessibleName(localized("Quick Filter"));
     m_quickFilter->setToolTip(localized("Show only networks of one kind"));
-    m_quickFilterItems = new QActionGroup(this);
-    for (const QuickFilterItem& item : composeQuickFilterMenu()) {
+    for (const QuickFilterItem& item : composeQuickFilterMenu())
         m_quickFilter->addItem(localized(item.title));
-        QAction* action = m_quickFilterItems->addAction(localized(item.title));
-        action->setCheckable(true);
-        connect(action, &QAction::triggered, this,
-                [this, tag = item.tag] { Q_EMIT quickFilterSelected(tag); });
-    }
     connect(m_quickFilter, &QComboBox::activated, this,
             [this](int index) { Q_EMIT quickFilterSelected(static_cast<QuickFilter>(index)); });
 }
@@ -192,134 +185,8 @@ void MainWindow::makeFilter()
 
 void MainWindow::setQuickFilter(QuickFilter filter)
 {
-    const auto index = static_cast<int>(filter);
-    m_quickFilter->setCurrentIndex(index);
-    m_quickFilterItems->actions().at(index)->setChecked(true);
-}
-
-void MainWindow::makeMenus()
-{
-    makeFileMenu();
-
-    makeEditMenu();
-
-    QMenu& scan = *menuBar()->addMenu(localized("&Scan"));
-    scan.setToolTipsVisible(true);
-    scan.addAction(m_scan);
-    scan.addAction(m_stop);
-    scan.addSeparator();
-    m_intervalMenu = new IntervalMenu(&scan);
-    scan.addMenu(m_intervalMenu);
-    m_speechMenu = new SpeechMenu(&scan);
-    scan.addMenu(m_speechMenu);
-
-    QMenu& view = *menuBar()->addMenu(localized("&View"));
-    QAction* filter = view.addAction(localized("&Filter"), this, [this] {
-        m_filter->setFocus(Qt::ShortcutFocusReason);
-        m_filter->selectAll();
-    });
-    filter->setShortcut(QKeySequence::Find);
-    m_showSideView = view.addAction(localized("&Side View"));
-    m_showSideView->setCheckable(true);
-    m_showSideView->setShortcut(QKeySequence(Qt::Key_F9));
-    connect(m_showSideView, &QAction::triggered, this, &MainWindow::setSideViewShown);
-    connect(m_splitter, &QSplitter::splitterMoved, this,
-            [this] { m_showSideView->setChecked(m_splitter->sizes().front() > 0); });
-    m_showTabs = view.addAction(localized("&Lower Half"));
-    m_showTabs->setCheckable(true);
-    m_showTabs->setShortcut(QKeySequence(Qt::Key_F8));
-    connect(m_showTabs, &QAction::triggered, this, &MainWindow::setTabsShown);
-    connect(m_tabsSplitter, &QSplitter::splitterMoved, this,
-            [this] { m_showTabs->setChecked(m_tabsSplitter->sizes().back() > 0); });
-    view.addSeparator();
-    m_graphTabs->addViewItems(view);
-    view.addSeparator();
-    view.addActions(m_quickFilterItems->actions());
-    view.addSeparator();
-    QMenu* columns = view.addMenu(localized("&Columns"));
-    columns->setToolTipsVisible(true);
-    connect(columns, &QMenu::aboutToShow, this, [this, columns] {
-        columns->clear();
-        m_networksView->addColumnItems(*columns);
-    });
-
-    QMenu& help = *menuBar()->addMenu(localized("&Help"));
-    help.addAction(localized("&Filter Language"), this, &MainWindow::showFilterHelp)
-        ->setShortcut(QKeySequence::HelpContents);
-    help.addSeparator();
-    help.addAction(localized("&About Tessara"), this, &MainWindow::showAbout)
-        ->setMenuRole(QAction::AboutRole);
-}
-
-void MainWindow::makeExchangeItems(QMenu& file)
-{
-    connect(&file, &QMenu::aboutToShow, this, &MainWindow::fileMenuWillShow);
-    QMenu& networks = *file.addMenu(localized("&Export Networks"));
-    m_exportAll = networks.addAction(localized("&All Networks..."), this,
-                                     &MainWindow::exportAllNetworksRequested);
-    m_exportDisplayed = networks.addAction(localized("&Displayed Networks..."), this,
-                                           &MainWindow::exportDisplayedNetworksRequested);
-    m_exportSelected = networks.addAction(localized("&Selected Networks..."), this,
-                                          &MainWindow::exportSelectedNetworksRequested);
-    file.addSeparator();
-    file.addAction(localized("E&xport Annotations..."), this,
-                   &MainWindow::exportAnnotationsRequested);
-    file.addAction(localized("&Import Annotations..."), this,
-                   &MainWindow::importAnnotationsRequested);
-}
-
-void MainWindow::makeEditMenu()
-{
-    QMenu& edit = *menuBar()->addMenu(localized("&Edit"));
-    QAction* copy = edit.addAction(localized("&Copy"), this, &MainWindow::onCopy);
-    copy->setShortcut(QKeySequence::Copy);
-    connect(qApp, &QApplication::focusChanged, copy, [this, copy](QWidget*, QWidget* now) {
-        if (now)
-            copy->setEnabled(now != m_sideView); // which copies nothing
-    });
-    edit.addSeparator();
-    QAction* editNote = edit.addAction(localized("Edit &Annotation"), m_networksView,
-                                       &TSNetworksView::editAnnotations);
-    editNote->setShortcut(QKeySequence(Qt::Key_F2));
-    connect(&edit, &QMenu::aboutToShow, editNote,
-            [this, editNote] { editNote->setEnabled(m_networksView->canEditAnnotations()); });
-    edit.addSeparator();
-    QAction* preferences =
-        edit.addAction(localized("&Preferences..."), this, &MainWindow::preferencesRequested);
-    preferences->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Comma));
-    preferences->setMenuRole(QAction::PreferencesRole);
-    // The key asks the table.
-    connect(&edit, &QMenu::aboutToHide, editNote, [editNote] { editNote->setEnabled(true); });
-}
-
-/// A text field has a Copy of its own; anything else but the table has nothing to copy.
-void MainWindow::onCopy()
-{
-    if (const auto* field = qobject_cast<QLineEdit*>(focusWidget()))
-        field->copy();
-    else if (focusWidget() == m_networksView)
-        Q_EMIT copyRequested();
-}
-
-void MainWindow::makeFileMenu()
-{
-    QMenu& file = *menuBar()->addMenu(localized("&File"));
-    file.addAction(localized("&Open..."), this, &MainWindow::openRequested)
-        ->setShortcut(QKeySequence::Open);
-    auto* recent = new RecentDocumentsMenu(&file);
-    connect(recent, &RecentDocumentsMenu::documentTriggered, this, &MainWindow::fileRequested);
-    file.addMenu(recent);
-    file.addSeparator();
-    // Results that can be saved are never those of a file: each time there is a name to be given.
-    m_saveAs = file.addAction(localized("Save &As..."), this, &MainWindow::saveAsRequested);
-    m_saveAs->setShortcuts(
-        {QKeySequence(Qt::CTRL | Qt::Key_S), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S)});
-    file.addSeparator();
-    makeExchangeItems(file);
-    file.addSeparator();
-    QAction* quit = file.addAction(localized("&Quit"), this, &QWidget::close);
-    quit->setShortcuts({QKeySequence(Qt::CTRL | Qt::Key_Q), QKeySequence(Qt::CTRL | Qt::Key_W)});
-    quit->setMenuRole(QAction::QuitRole);
+    m_quickFilter->setCurrentIndex(static_cast<int>(filter));
+    m_menu->setQuickFilter(filter);
 }
 
 void MainWindow::makeFooter()
@@ -340,20 +207,7 @@ void MainWindow::setDocument(const QString& title, bool hasUnsavedResults)
     setWindowTitle(text.replace(QLatin1String("[*]"), QLatin1String("[*][*]")) +
                    QLatin1String("[*]"));
     setWindowModified(hasUnsavedResults);
-    m_saveAs->setEnabled(hasUnsavedResults);
-}
-
-void MainWindow::setScanStopEnabled(bool canScan, bool canStop)
-{
-    m_scan->setEnabled(canScan);
-    m_stop->setEnabled(canStop);
-}
-
-void MainWindow::setExportEnabled(bool all, bool displayed, bool selected)
-{
-    m_exportAll->setEnabled(all);
-    m_exportDisplayed->setEnabled(displayed);
-    m_exportSelected->setEnabled(selected);
+    m_menu->setSaveEnabled(hasUnsavedResults);
 }
 
 void MainWindow::setStateInfo(const StateInfo& info)
@@ -434,14 +288,14 @@ void MainWindow::restoreSplitter(const QByteArray& state)
 {
     if (!m_splitter->restoreState(state))
         setSideViewShown(false);
-    m_showSideView->setChecked(m_splitter->sizes().front() > 0);
+    validateAreaItems();
 }
 
 void MainWindow::setSideViewShown(bool shown)
 {
     const int side = shown ? m_sideView->sizeHint().width() : 0;
     m_splitter->setSizes({side, std::max(m_splitter->width() - side, 1)});
-    m_showSideView->setChecked(shown);
+    validateAreaItems();
 }
 
 QByteArray MainWindow::tabsSplitterState() const
@@ -453,14 +307,20 @@ void MainWindow::restoreTabsSplitter(const QByteArray& state)
 {
     if (!m_tabsSplitter->restoreState(state))
         setTabsShown(true);
-    m_showTabs->setChecked(m_tabsSplitter->sizes().back() > 0);
+    validateAreaItems();
 }
 
 void MainWindow::setTabsShown(bool shown)
 {
     const int tabs = shown ? kFreshTabs : 0;
     m_tabsSplitter->setSizes({std::max(m_tabsSplitter->height() - tabs, kSmallestTable), tabs});
-    m_showTabs->setChecked(shown);
+    validateAreaItems();
+}
+
+void MainWindow::validateAreaItems()
+{
+    m_menu->sideViewItem().setChecked(m_splitter->sizes().front() > 0);
+    m_menu->lowerHalfItem().setChecked(m_tabsSplitter->sizes().back() > 0);
 }
 
 void MainWindow::takeFirstRunFrame()
@@ -470,27 +330,6 @@ void MainWindow::takeFirstRunFrame()
                      static_cast<int>(kFreshSize.height() * kFirstRunHeight));
     resize(size.boundedTo(available.size()));
     move(available.center() - rect().center());
-}
-
-void MainWindow::showFilterHelp()
-{
-    if (!m_filterHelp)
-        m_filterHelp = new HelpPage(QStringLiteral("filter"), localized("Filter Language"), this);
-    m_filterHelp->show();
-    m_filterHelp->raise();
-    m_filterHelp->activateWindow();
-}
-
-void MainWindow::showAbout()
-{
-    auto* about = new QMessageBox(QMessageBox::NoIcon, localized("About Tessara"),
-                                  QStringLiteral("Tessara %1").arg(QLatin1String(TESSARA_VERSION)),
-                                  QMessageBox::Close, this);
-    about->setAttribute(Qt::WA_DeleteOnClose);
-    about->setInformativeText(
-        localized("Shows the Wi-Fi networks in range, what they announce and how their signals "
-                  "develop.\n\nFree software under the Apache License 2.0."));
-    about->open();
 }
 
 } // namespace tessara

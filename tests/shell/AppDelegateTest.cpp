@@ -10,6 +10,11 @@
 #include "shell/FilterField.h"
 #include "shell/GraphTabs.h"
 #include "shell/IntervalMenu.h"
+#include "shell/MASPreferencesWindowController.h"
+#include "shell/MainMenu.h"
+#include "shell/NetworkDetailsForm.h"
+#include "shell/NetworkDetailsPane.h"
+#include "shell/TSAdvancedDetailsView.h"
 #include "shell/TSNetworksView.h"
 #include "shell/TSProgressWindow.h"
 #include "shell/TSSideView.h"
@@ -290,7 +295,7 @@ TEST_F(AppDelegateTest, ChecksTheStoredIntervalAndScansAtItsOwnPace)
 {
     Defaults::standard().setValue(DefaultKey::SelectedScanInterval, 8);
     launch();
-    const QList<QAction*> items = delegate->window().intervalMenu().actions();
+    const QList<QAction*> items = delegate->window().menu().intervalMenu().actions();
     QStringList checked;
     for (const QAction* item : items) {
         if (item->isChecked())
@@ -437,7 +442,7 @@ TEST_F(AppDelegateTest, HidesTheFooterUntilTheFirstDelivery)
 TEST_F(AppDelegateTest, ExportsTheListThatIsAskedFor)
 {
     launch();
-    Q_EMIT window().fileMenuWillShow();
+    Q_EMIT window().menu().fileMenuWillShow();
     EXPECT_FALSE(action("&All Networks...").isEnabled());
     EXPECT_FALSE(action("&Displayed Networks...").isEnabled());
     engineScans({named("0:0:0:0:0:1", "Zoo", 36), named("0:0:0:0:0:2", "Attic"),
@@ -445,12 +450,12 @@ TEST_F(AppDelegateTest, ExportsTheListThatIsAskedFor)
     tick();
     window().findChild<FilterField*>()->setText(QStringLiteral("2.4GHz"));
     settle();
-    Q_EMIT window().fileMenuWillShow();
+    Q_EMIT window().menu().fileMenuWillShow();
     EXPECT_TRUE(action("&Displayed Networks...").isEnabled());
     EXPECT_FALSE(action("&Selected Networks...").isEnabled());
     table().selectNetworks([](const TSNetwork& each) { return each.ssid() == u"Cellar"; });
     table().header()->moveSection(2, 1); // the name before the BSSID
-    Q_EMIT window().fileMenuWillShow();
+    Q_EMIT window().menu().fileMenuWillShow();
     EXPECT_TRUE(action("&Selected Networks...").isEnabled());
 
     const std::pair<const char*, std::vector<const char*>> cases[] = {
@@ -698,4 +703,94 @@ TEST_F(AppDelegateTest, AsksBeforeAScanOrAnEndLosesResults)
     waitForWork();
     EXPECT_EQ(ends.size(), 1);
     EXPECT_TRUE(QFile::exists(directory.filePath(QStringLiteral("a.tessara"))));
+}
+
+TEST_F(AppDelegateTest, AColourThatTheUserGivesLasts)
+{
+    launch();
+    engineScans({named("0:0:0:0:0:1", "Attic")});
+    tick();
+    const QColor before = delegate->scanCycle().networks().front()->color();
+    auto& form = window().graphTabs().networkDetails().form();
+    Q_EMIT form.didSelectColor(Qt::red); // of which network?
+    EXPECT_EQ(delegate->scanCycle().networks().front()->color(), before);
+
+    const QColor chosen(12, 34, 56);
+    table().selectNetworks([](const TSNetwork&) { return true; });
+    Q_EMIT form.didSelectColor(chosen);
+    EXPECT_EQ(delegate->scanCycle().networks().front()->color(), chosen);
+    ScanDictionary dictionary;
+    dictionary.bssid = QStringLiteral("0:0:0:0:0:1");
+    EXPECT_EQ(TSNetwork(dictionary, 0).color(), chosen) << "in the next scan too";
+}
+
+TEST_F(AppDelegateTest, TextGrowsAndShrinksWithinBounds)
+{
+    launch();
+    Defaults& defaults = Defaults::standard();
+    const auto sizes = [&] {
+        return std::vector<double>{defaults.doubleForKey(DefaultKey::NetworksViewFontSize),
+                                   defaults.doubleForKey(DefaultKey::AdvancedDetailsViewFontSize),
+                                   defaults.doubleForKey(DefaultKey::SideViewFontSize)};
+    };
+    action("Make Text &Bigger").trigger();
+    EXPECT_THAT(sizes(), ElementsAre(12, 13, 12));
+    EXPECT_EQ(table().font().pointSizeF(), 12);
+    EXPECT_EQ(window().sideView().font().pointSizeF(), 12);
+    for (int i = 0; i < 9; ++i)
+        action("Make Text &Bigger").trigger();
+    EXPECT_THAT(sizes(), ElementsAre(18, 18, 18));
+    for (int i = 0; i < 12; ++i)
+        action("Make Text S&maller").trigger();
+    EXPECT_THAT(sizes(), ElementsAre(9, 9, 9));
+}
+
+TEST_F(AppDelegateTest, ThePreferencesAreLive)
+{
+    launch();
+    engineScans({named("0:0:0:0:0:1", "Attic")});
+    tick();
+    EXPECT_TRUE(cell(0, u"RSSI").endsWith(u'%'));
+    action("&Preferences...").trigger();
+    auto* preferences = window().findChild<MASPreferencesWindowController*>();
+    ASSERT_NE(preferences, nullptr);
+    EXPECT_TRUE(preferences->isVisible());
+    auto* units = preferences->findChildren<QComboBox*>().front();
+    units->setCurrentIndex(1);
+    Q_EMIT units->activated(1);
+    settle();
+    EXPECT_FALSE(cell(0, u"RSSI").endsWith(u'%'));
+
+    // A wish for quick filters of one's own finds no pane, and changes nothing else.
+    Defaults::standard().setValue(DefaultKey::QuickFilterSelectedItem,
+                                  static_cast<qint64>(kQuickFilterNotFound));
+    preferences->close();
+    delegate->applicationWillFinishLaunching();
+    EXPECT_TRUE(preferences->isVisible());
+    EXPECT_EQ(preferences->windowTitle(), QStringLiteral("General"));
+    EXPECT_EQ(Defaults::standard().integerForKey(DefaultKey::QuickFilterSelectedItem), 0);
+}
+
+TEST_F(AppDelegateTest, CopyAndPasteAreForWhatHasTheKeyboard)
+{
+    launch();
+    engineScans({named("0:0:0:0:0:1", "Attic")});
+    tick();
+    window().activateWindow();
+    auto* field = window().findChild<FilterField*>();
+    field->setFocus();
+    settle();
+    EXPECT_TRUE(action("&Paste").isEnabled());
+    QGuiApplication::clipboard()->setText(QStringLiteral("att"));
+    action("&Paste").trigger();
+    EXPECT_EQ(field->text(), QStringLiteral("att"));
+    table().setFocus();
+    settle();
+    EXPECT_FALSE(action("&Paste").isEnabled());
+    EXPECT_TRUE(action("&Copy").isEnabled());
+    action("Select A&ll").trigger();
+    EXPECT_EQ(table().selectedItems().size(), 1U);
+    window().sideView().setFocus();
+    settle();
+    EXPECT_FALSE(action("&Copy").isEnabled());
 }

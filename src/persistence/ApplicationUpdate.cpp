@@ -1,0 +1,72 @@
+#include "persistence/ApplicationUpdate.h"
+
+#include "foundation/Localized.h"
+
+#include <QVersionNumber>
+
+namespace tessara {
+
+namespace {
+
+constexpr double kTimeout = 10.0;      // seconds
+constexpr qint64 kLongestAnswer = 256; // bytes
+
+} // namespace
+
+ApplicationUpdate::Source ApplicationUpdate::Source::standard()
+{
+    return {QUrl(QStringLiteral(TESSARA_VERSION_URL)), QSslConfiguration::defaultConfiguration()};
+}
+
+void ApplicationUpdate::checkForUpdates()
+{
+    if (m_check)
+        return;
+    m_progress = m_prompt.beginProgress(localized("Checking for updates..."));
+    QNetworkRequest request(m_source.location);
+    request.setSslConfiguration(m_source.tls);
+    request.setAttribute(QNetworkRequest::CacheLoadControlAttribute,
+                         QNetworkRequest::AlwaysNetwork);
+    m_answer.close();
+    m_answer.setData(QByteArray());
+    m_answer.open(QIODevice::WriteOnly);
+    const HttpsGet::Limits limits{kTimeout, kTimeout, kLongestAnswer};
+    m_check = std::make_unique<HttpsGet>(m_clock, request, limits, &m_answer);
+    connect(m_check.get(), &HttpsGet::finished, this, &ApplicationUpdate::didFinish);
+}
+
+void ApplicationUpdate::didFinish()
+{
+    m_prompt.endProgress(*std::exchange(m_progress, std::nullopt));
+    const QString error = m_check->error();
+    m_check.release()->deleteLater(); // this is its signal
+    if (!error.isEmpty()) {
+        inform(localized("Unable to check for updates."), error);
+        return;
+    }
+    const QVersionNumber own = QVersionNumber::fromString(QLatin1String(TESSARA_VERSION));
+    const auto newest = QVersionNumber::fromString(QString::fromLatin1(m_answer.data().trimmed()));
+    if (newest.isNull()) {
+        inform(localized("Unable to check for updates."),
+               localized("The server's answer is not the number of a version."));
+    } else if (newest > own) {
+        inform(localized("A new version of Tessara is available!"),
+               localized("Version %1 is available; you have version %2. It comes the way this "
+                         "one came, with the system's packages for instance.")
+                   .arg(newest.toString(), own.toString()));
+    } else {
+        inform(localized("Tessara is up-to-date!"),
+               localized("Version %1 is the newest version available.").arg(own.toString()));
+    }
+}
+
+void ApplicationUpdate::inform(const QString& messageText, const QString& informativeText)
+{
+    m_prompt.beginAlert({.messageText = messageText,
+                         .informativeText = informativeText,
+                         .buttons = {localized("OK")},
+                         .style = TSAlert::Style::kInformational},
+                        [](int) {});
+}
+
+} // namespace tessara

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "foundation/Clock.h"
+#include "foundation/UserPrompt.h"
+#include "persistence/HttpsGet.h"
+
+#include <QBuffer>
+#include <QObject>
+#include <QSslConfiguration>
+#include <QUrl>
+
+#include <memory>
+#include <optional>
+
+namespace tessara {
+
+/// Asks the publisher's server which version is the newest, and says what it found. Installing it
+/// is the business of whatever has installed this one. Belongs to the main thread and never blocks
+/// it.
+class ApplicationUpdate final : public QObject {
+    Q_OBJECT
+
+public:
+    struct Source {
+        QUrl location; ///< of a text that is the number of a version
+        QSslConfiguration tls;
+
+        /// The publisher's, trusting whom the system trusts.
+        static Source standard();
+    };
+
+    ApplicationUpdate(UserPrompt& prompt, Clock& clock, Source source = Source::standard())
+        : m_prompt(prompt)
+        , m_clock(clock)
+        , m_source(std::move(source))
+    {
+    }
+
+    void checkForUpdates();
+
+private:
+    void didFinish();
+    void inform(const QString& messageText, const QString& informativeText);
+
+    UserPrompt& m_prompt;
+    Clock& m_clock;
+    const Source m_source;
+    std::optional<UserPrompt::ProgressId> m_progress;
+    QBuffer m_answer;
+    std::unique_ptr<HttpsGet> m_check; ///< under way
+};
+
+} // namespace tessara
