@@ -74,9 +74,9 @@ void drawChartFrame(QPainter& painter, const ChartScale& scale, const ChartFrame
     painter.restore();
 }
 
-void clipToChart(QPainter& painter, const QRectF& chart)
+QRectF chartClip(const QRectF& chart)
 {
-    painter.setClipRect(chart.adjusted(0, -1, 0, 1), Qt::IntersectClip);
+    return chart.adjusted(0, -1, 0, 1);
 }
 
 void drawXAxisMarks(QPainter& painter, const ChartScale& scale, const QPointF& origin,

@@ -27,8 +27,8 @@ struct ChartFrame {
 void drawChartFrame(QPainter& painter, const ChartScale& scale, const ChartFrame& frame,
                     const WindowScale& window);
 
-/// Keeps what is painted next inside a chart; lines along its edges keep their width.
-void clipToChart(QPainter& painter, const QRectF& chart);
+/// Where lines of a chart end: lines along its edges keep their width.
+QRectF chartClip(const QRectF& chart);
 
 /// Paints the times below a chart.
 /// @param origin the left end of the axis, and where the baselines of its texts lie

@@ -2,10 +2,10 @@
 
 #include <QBuffer>
 #include <QDateTime>
-#include <QDir>
 #include <QDrag>
 #include <QPixmap>
 #include <QSaveFile>
+#include <QTemporaryDir>
 #include <QUrl>
 #include <QWidget>
 
@@ -24,11 +24,19 @@ QByteArray encoded(const QImage& image, const char* format)
     return image.save(&buffer, format) ? bytes : QByteArray();
 }
 
+/// Where files are written: nobody else can have put anything there, and it stays while a receiver
+/// may still read from it.
+const QTemporaryDir& picturesFolder()
+{
+    static const QTemporaryDir folder;
+    return folder;
+}
+
 } // namespace
 
-ChartPicture::ChartPicture(QImage image, QString file)
+ChartPicture::ChartPicture(QImage image, QString name)
     : m_image(std::move(image))
-    , m_file(std::move(file))
+    , m_name(std::move(name))
 {
 }
 
@@ -62,10 +70,10 @@ QByteArray ChartPicture::made(const QString& mimeType) const
     QByteArray png = encoded(m_image, "png");
     if (mimeType == kPng)
         return png;
-    QSaveFile file(m_file);
+    QSaveFile file(picturesFolder().filePath(m_name));
     if (!file.open(QIODevice::WriteOnly) || file.write(png) != png.size() || !file.commit())
         return {};
-    return QUrl::fromLocalFile(m_file).toEncoded() + "\r\n";
+    return QUrl::fromLocalFile(file.fileName()).toEncoded() + "\r\n";
 }
 
 QString chartPictureName(double time)
@@ -75,14 +83,14 @@ QString chartPictureName(double time)
                  .toString(QStringLiteral("yyyyMMdd_HHmmss")));
 }
 
-void dragChartPicture(const QImage& image, const QString& file, QWidget& view)
+void dragChartPicture(const QImage& image, const QString& name, QWidget& view)
 {
     constexpr double kShownSize = 0.75;
     QPixmap shown = QPixmap::fromImage(
         image.scaled(image.size() * kShownSize, Qt::KeepAspectRatio, Qt::SmoothTransformation));
     shown.setDevicePixelRatio(image.devicePixelRatio());
     auto* drag = new QDrag(&view);
-    drag->setMimeData(new ChartPicture(image, file));
+    drag->setMimeData(new ChartPicture(image, name));
     drag->setPixmap(shown);
     drag->setHotSpot(QRectF({}, shown.deviceIndependentSize()).center().toPoint());
     drag->exec(Qt::CopyAction);

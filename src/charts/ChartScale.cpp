@@ -17,7 +17,7 @@ std::int64_t attenuation(std::int64_t dBm)
 {
     if (dBm > 0)
         return 1;
-    return std::min<std::int64_t>(-dBm, 100);
+    return -std::max<std::int64_t>(dBm, -100);
 }
 
 } // namespace

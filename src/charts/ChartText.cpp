@@ -14,16 +14,17 @@ namespace tessara {
 namespace {
 
 constexpr double kPointsPerInch = 72;
-constexpr double kLeftOfOrigin = 5;
 constexpr double kShadowOffset = 1;
 
-/// The family that charts ask for, or else a sans serif whose figures are all of one width. Asked
-/// by name: what a system puts in place of a family that it lacks may be anything.
+/// The family that charts ask for, or else one of the same widths, or at least one whose figures
+/// are all of one width. Asked by name: what a system puts in place of a family that it lacks may
+/// be anything, and wider than what the axes have room for.
 const QString& fontFamily()
 {
     static const QString family = [] {
-        const QString families[] = {QStringLiteral("Helvetica Neue"),
-                                    QStringLiteral("HelveticaNeue"), QStringLiteral("DejaVu Sans")};
+        const QString families[] = {
+            QStringLiteral("Helvetica Neue"), QStringLiteral("HelveticaNeue"),
+            QStringLiteral("Liberation Sans"), QStringLiteral("DejaVu Sans")};
         const auto* found = std::ranges::find_if(
             families, [](const QString& name) { return QFontDatabase::hasFamily(name); });
         return found == std::end(families) ? QStringLiteral("sans-serif") : *found;
@@ -146,18 +147,12 @@ void centerTextInContextAtOrigin(QPainter& painter, const QPointF& origin, const
 }
 
 void textInContextAtOrigin(QPainter& painter, const QPointF& origin, const QString& text,
-                           const TextAttributes& attributes, double width)
+                           const TextAttributes& attributes)
 {
     if (text.isEmpty())
         return;
-    TextRun run = makeRun(text, chartFont(attributes, *painter.device()), *painter.device());
-    if (width > 0 && run.width > width) {
-        run = makeRun(
-            QFontMetricsF(run.font, painter.device()).elidedText(text, Qt::ElideRight, width),
-            run.font, *painter.device());
-    }
-    drawLine(painter, {origin.x() - kLeftOfOrigin, origin.y() - attributes.size}, {run},
-             attributes.color);
+    const TextRun run = makeRun(text, chartFont(attributes, *painter.device()), *painter.device());
+    drawLine(painter, {origin.x(), origin.y() - attributes.size}, {run}, attributes.color);
 }
 
 } // namespace tessara

@@ -35,9 +35,8 @@ void centerTextInContextAtOrigin(QPainter& painter, const QPointF& origin, const
                                  const TextAttributes& attributes, const QRectF& bounds = {},
                                  const QString& highlighted = {});
 
-/// Text that begins near an origin.
-/// @param width the room there is, in points; a longer text ends in an ellipsis. 0: any width
+/// Text that begins at an origin.
 void textInContextAtOrigin(QPainter& painter, const QPointF& origin, const QString& text,
-                           const TextAttributes& attributes, double width = 0);
+                           const TextAttributes& attributes);
 
 } // namespace tessara

@@ -1,5 +1,7 @@
 #include "charts/DetailsLayout.h"
 
+#include <algorithm>
+
 namespace tessara {
 
 QRectF qualityArea(const TSNetwork& network, const ChartScale& scale, Metric metric)
@@ -7,7 +9,7 @@ QRectF qualityArea(const TSNetwork& network, const ChartScale& scale, Metric met
     const RunningStatistic& values =
         metric == Metric::kSNR ? network.snrStatistic() : network.rssiStatistic();
     return {scale.rect.x(), scale.rect.y(), scale.rect.width(),
-            scale.heightFor(values.max, metric)};
+            std::clamp(scale.heightFor(values.max, metric), 0.0, scale.rect.height())};
 }
 
 } // namespace tessara

@@ -1,5 +1,10 @@
 #include "charts/SignalLine.h"
 
+#include "charts/ChartFrame.h"
+#include "charts/Clipping.h"
+
+#include <utility>
+
 namespace tessara {
 
 namespace {
@@ -12,7 +17,8 @@ constexpr double kSliver = 0.075;  // by which an area reaches beyond its newest
 class LineBuilder {
 public:
     LineBuilder(const ChartScale& scale, const LineShape& shape)
-        : m_floor(scale.rect.y())
+        : m_clip(chartClip(scale.rect))
+        , m_floor(scale.rect.y())
         , m_shape(shape)
     {
     }
@@ -53,7 +59,10 @@ public:
     }
 
 private:
-    void endStretch() { m_result.stretches.push_back(std::exchange(m_stretch, {})); }
+    void endStretch()
+    {
+        m_result.stretches.push_back(clippedOutline(std::exchange(m_stretch, {}), m_clip));
+    }
 
     /// @param newest the x where the area ends on its floor
     void endPiece(double newest)
@@ -64,9 +73,10 @@ private:
         m_area.lineTo(newest, m_floor);
         m_area.lineTo(newest, start.y());
         m_area.closeSubpath();
-        m_result.areas.push_back(std::exchange(m_area, {}));
+        m_result.areas.push_back(clippedArea(std::exchange(m_area, {}), m_clip));
     }
 
+    QRectF m_clip;
     double m_floor;
     LineShape m_shape;
     QPainterPath m_stretch;

@@ -16,8 +16,8 @@ namespace tessara {
 struct SampleLine {
     /// To be stroked. A stretch may be in several pieces, with gaps between.
     std::vector<QPainterPath> stretches;
-    /// What lies below, one for each piece between two gaps; none where none is asked for. An area
-    /// does not end with a stretch, since the seams would show.
+    /// What lies below, one for each piece between two gaps; none where none is asked for. It
+    /// covers the same without an end at each stretch, where seams would show.
     std::vector<QPainterPath> areas;
 };
 
@@ -29,8 +29,8 @@ struct LineShape {
     int maxElements = std::numeric_limits<int>::max(); ///< a stretch that has more ends there
 };
 
-/// The line of the samples that are visible, newest first, and of the first beyond the left edge.
-/// Samples more than a minute apart are not joined.
+/// The line of the samples that are visible, newest first, and on to the first beyond the left
+/// edge, where it ends with the chart. Samples more than a minute apart are not joined.
 /// @param history oldest first
 SampleLine sampleLine(const std::deque<TSDataPoint>& history, const ChartScale& scale,
                       const LineShape& shape);

@@ -1,5 +1,6 @@
 #include "charts/SpectrumShape.h"
 
+#include "charts/Clipping.h"
 #include "charts/RoundedCorner.h"
 
 #include <algorithm>
@@ -37,8 +38,7 @@ SpectrumShape flatTop(const Anchors& at, const ChartScale& scale, double spread,
     const double atTop = 15 * share * window.horizontal * spread;
     const double left = at.left + atTop;
     const double right = at.right - atTop;
-    // Where the axis is narrow, the corners meet in the middle at most.
-    const double radius = std::min(10 * share, (right - left) / 2);
+    const double radius = 10 * share; // also where the corners then overlap, on a narrow axis
 
     QPainterPath path({at.right, at.floor});
     path.lineTo(at.right - atShoulder, shoulder);
@@ -117,10 +117,13 @@ std::optional<SpectrumShape> spectrumShape(const TSNetwork& network, const Spect
                           .right = xFor(center + halfWidth) + overhang,
                           .floor = floor,
                           .top = floor + band.scale.heightFor(network.rssiLast())};
-    if (!isDSSSOnly(network))
-        return flatTop(anchors, band.scale, spreads, window);
     const bool isPointed = width == ChannelWidth::kUnknown || width == ChannelWidth::k20MHz;
-    return bell(anchors, band, isPointed ? 0 : 2 * band.axis.step(), window);
+    SpectrumShape shape = isDSSSOnly(network)
+                              ? bell(anchors, band, isPointed ? 0 : 2 * band.axis.step(), window)
+                              : flatTop(anchors, band.scale, spreads, window);
+    shape.area = clippedArea(shape.area, band.scale.rect);
+    shape.outline = clippedOutline(shape.outline, band.scale.rect);
+    return shape;
 }
 
 } // namespace tessara

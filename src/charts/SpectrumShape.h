@@ -18,7 +18,7 @@ struct SpectrumBand {
     bool isAlone;     ///< no other band is shown
 };
 
-/// The shape of a network over the channels that it occupies.
+/// The shape of a network over the channels that it occupies; it ends at the edges of the chart.
 struct SpectrumShape {
     double center; ///< x of its middle
     double top;    ///< y of its last signal

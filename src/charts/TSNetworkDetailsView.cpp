@@ -107,7 +107,7 @@ void TSNetworkDetailsView::drawDataPoints(QPainter& painter, const ChartScale& s
                    windowScale().fontSize(10, 9, 12), hasRecentScan());
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing, true);
-    clipToChart(painter, scale.rect);
+    painter.setClipRect(chartClip(scale.rect), Qt::IntersectClip);
     if (willDrawNoise())
         drawNoise(painter, scale);
     drawLine(painter, scale);

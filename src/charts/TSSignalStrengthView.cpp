@@ -11,7 +11,6 @@
 #include "charts/ValueAxis.h"
 
 #include <QApplication>
-#include <QDir>
 #include <QGestureEvent>
 #include <QMouseEvent>
 #include <QNativeGestureEvent>
@@ -20,6 +19,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <unordered_set>
 
 namespace tessara {
 
@@ -92,11 +92,11 @@ void TSSignalStrengthView::setNetworks(const NetworkList& networks)
 {
     // The sample under the mouse goes with the selection of its network; it stays where that has
     // merely left the list.
+    std::unordered_set<std::size_t> selected;
+    for (const NetworkPtr& network : m_highlightedNetworks)
+        selected.insert(network->keyHash());
     const auto wasDeselected = [&](const NetworkPtr& network) {
-        return !network->isUserHighlighted() &&
-               std::ranges::any_of(m_highlightedNetworks, [&](const NetworkPtr& highlighted) {
-                   return highlighted->bssidAndBandCompare(network->network());
-               });
+        return !network->isUserHighlighted() && selected.contains(network->keyHash());
     };
     if (m_moDataPoint && std::ranges::any_of(networks, wasDeselected))
         clearHoverPoint();
@@ -286,7 +286,7 @@ void TSSignalStrengthView::drawDataPoints(QPainter& painter, const ChartScale& s
             labelFontSize(), hasRecentScan());
     }
     drawLabels(painter, scale, networks, merge);
-    clipToChart(painter, rect);
+    painter.setClipRect(chartClip(rect), Qt::IntersectClip);
     drawLines(painter, scale, networks);
     painter.restore();
 }
@@ -300,12 +300,10 @@ void TSSignalStrengthView::drawLabels(QPainter& painter, const ChartScale& scale
                                       const NetworkList& networks, const RadioMerge* merge) const
 {
     constexpr double kLargerThanAxis = 2.5;
-    constexpr double kRightMargin = 4;
     const WindowScale window = windowScale();
     const double fontSize = labelFontSize();
     const double beside = kLabelsBesideChart * window.horizontal;
     const double x = scale.rect.x() + scale.rect.width() + beside;
-    const double room = width() - x - kRightMargin;
     for (const NetworkPtr& network : networks) {
         if (network->isUserHidden())
             continue;
@@ -314,13 +312,12 @@ void TSSignalStrengthView::drawLabels(QPainter& painter, const ChartScale& scale
         const double alpha = isHighlighted(*network) ? 1 : m_itemHighlightEnabled ? 0.2 : 0.8;
         TextAttributes attributes{fontSize + kLargerThanAxis, withAlpha(network->color(), alpha),
                                   network->isAssociated() ? TextStyle::kBold : TextStyle::kPlain};
-        textInContextAtOrigin(painter, {x, y - beside}, labelText(*network, merge), attributes,
-                              room);
+        textInContextAtOrigin(painter, {x, y - beside}, labelText(*network, merge), attributes);
         if (merge && m_displayDeviceName && network->isUserHighlighted()) {
             attributes.size = std::min(1.1, window.vertical) * fontSize;
             attributes.color = withAlpha(network->color(), alpha * 0.8);
             textInContextAtOrigin(painter, {x, y - (fontSize + 3) - beside}, network->deviceName(),
-                                  attributes, room);
+                                  attributes);
         }
     }
 }
@@ -385,8 +382,7 @@ void TSSignalStrengthView::drawTitle(QPainter& painter, const ChartScale& scale,
                                     attributes, bounds);
         const double beside = kLabelsBesideChart * windowScale().horizontal;
         textInContextAtOrigin(painter, origin + QPointF(beside, 0), network.annotations(),
-                              {fontSize, withAlpha(Qt::white, 0.5), TextStyle::kItalic},
-                              width() - origin.x());
+                              {fontSize, withAlpha(Qt::white, 0.5), TextStyle::kItalic});
     } else if (merge) {
         centerTextInContextAtOrigin(painter, origin, collectionsTitle(m_networks, *merge),
                                     attributes, bounds);
@@ -443,11 +439,13 @@ void TSSignalStrengthView::mousePressEvent(QMouseEvent* event)
 void TSSignalStrengthView::mouseMoveEvent(QMouseEvent* event)
 {
     const QPointF position = event->position();
-    if (event->buttons() == Qt::NoButton)
-        mouseMoved({position.x(), height() - position.y()});
-    else if (event->buttons().testFlag(Qt::LeftButton) && !m_dragInProgress &&
-             (position - m_pressed).manhattanLength() >= QApplication::startDragDistance())
+    if (event->buttons() == Qt::NoButton) {
+        if (isActiveWindow()) // what lies behind does not stir
+            mouseMoved({position.x(), height() - position.y()});
+    } else if (event->buttons().testFlag(Qt::LeftButton) && !m_dragInProgress &&
+               (position - m_pressed).manhattanLength() >= QApplication::startDragDistance()) {
         dragPicture();
+    }
 }
 
 void TSSignalStrengthView::mouseReleaseEvent(QMouseEvent* /*event*/)
@@ -498,8 +496,7 @@ void TSSignalStrengthView::dragPicture()
 {
     m_dragInProgress = true;
     const QPointer<TSSignalStrengthView> self(this);
-    dragChartPicture(imageWithSubviews(), QDir::temp().filePath(chartPictureName(m_clock.now())),
-                     *this);
+    dragChartPicture(imageWithSubviews(), chartPictureName(m_clock.now()), *this);
     if (self)
         m_dragInProgress = false;
 }

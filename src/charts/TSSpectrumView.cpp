@@ -251,12 +251,10 @@ void TSSpectrumView::drawLabel(QPainter& painter, const SpectrumShape& shape,
              {scale * 10, withAlpha(Qt::white, emphasis.stroke * 0.5), TextStyle::kItalic}});
     }
 
-    // Above the middle of the shape, but not beyond the edges of the view.
-    const QSizeF size = sizeOf(lines, *painter.device());
-    const double reach = size.width() / 2 + kBeside;
-    const QPointF foot(std::max(std::min(shape.center, width() - reach), reach),
-                       shape.top + scale * 13);
+    const QPointF foot(shape.center, shape.top + scale * 13);
     if (network.isUserHighlighted() && itemHighlightEnabled()) {
+        const QSizeF size = sizeOf(lines, *painter.device());
+        const double reach = size.width() / 2 + kBeside;
         painter.save();
         painter.setRenderHint(QPainter::Antialiasing, true);
         painter.setPen(QPen(withAlpha(emphasis.color, emphasis.stroke / 3), 1.5));

@@ -7,7 +7,7 @@
 #include "support/QtPrinters.h"
 #include "support/RecordingPaintDevice.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -26,6 +26,7 @@ class NetworkDetailsViewTest : public testing::Test {
 protected:
     NetworkDetailsViewTest()
     {
+        QApplication::setActiveWindow(&view);
         view.resize(kViewSize);
         view.setUnits(Units::kDBm);
         view.setReferenceTime(kReferenceTime);
