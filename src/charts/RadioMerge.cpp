@@ -15,6 +15,14 @@ const QStringList* RadioMerge::ssids(const TSNetwork& network) const
     return channel == accessPoint->cend() ? &kNone : &*channel;
 }
 
+std::optional<QString> RadioMerge::labelOf(const TSNetwork& network) const
+{
+    const QStringList* names = ssids(network);
+    if (!names)
+        return std::nullopt;
+    return names->size() > 1 && !network.isUserHighlighted() ? network.apid() : network.deviceid();
+}
+
 RadioMerge mergeNetworksByRadio(const NetworkList& networks)
 {
     RadioMerge merge;

@@ -5,6 +5,8 @@
 #include <QHash>
 #include <QStringList>
 
+#include <optional>
+
 namespace tessara {
 
 /// Networks by the radio that sends them: one that stands for each radio of each access point on
@@ -17,6 +19,9 @@ public:
     /// The names that the access point of a network uses on its channel, in order of appearance;
     /// nothing for an access point that is not among the networks.
     const QStringList* ssids(const TSNetwork& network) const;
+    /// What a network is called where it stands for its radio: by its access point, where that has
+    /// several names, or else by its own address. None for an access point that is not there.
+    std::optional<QString> labelOf(const TSNetwork& network) const;
 
     friend RadioMerge mergeNetworksByRadio(const NetworkList& networks);
 

@@ -40,10 +40,8 @@ void turnUpright(QPainter& painter, double height)
 
 QString labelText(const TSNetwork& network, const RadioMerge* merge)
 {
-    if (const QStringList* ssids = merge ? merge->ssids(network) : nullptr) {
-        return ssids->size() > 1 && !network.isUserHighlighted() ? network.apid()
-                                                                 : network.deviceid();
-    }
+    if (const auto label = merge ? merge->labelOf(network) : std::nullopt)
+        return *label;
     return network.isHidden() ? network.deviceid() : network.ssid();
 }
 

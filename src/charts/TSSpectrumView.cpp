@@ -2,6 +2,7 @@
 
 #include "charts/ChartText.h"
 #include "charts/PaintingOrder.h"
+#include "charts/RadioMerge.h"
 #include "charts/SpectrumLayout.h"
 #include "charts/SpectrumShape.h"
 #include "charts/TSThemeHelper.h"
@@ -50,9 +51,29 @@ bool containsEmoji(const QString& text)
     });
 }
 
-QString captionText(const TSNetwork& network)
+QString labelText(const TSNetwork& network, const RadioMerge* merge)
 {
-    QString text = QStringLiteral("%1, %2").arg(network.deviceid()).arg(network.channel());
+    if (const auto label = merge ? merge->labelOf(network) : std::nullopt)
+        return *label;
+    return network.isHidden() ? network.bssid() : network.ssid();
+}
+
+/// Who the caption is of.
+QString captionName(const TSNetwork& network, const RadioMerge* merge)
+{
+    if (!merge)
+        return network.deviceid();
+    const QStringList* ssids = merge->ssids(network);
+    if (network.isUserHighlighted() || !ssids)
+        return network.ssid();
+    QStringList names = *ssids;
+    names.sort(Qt::CaseInsensitive);
+    return names.join(QStringLiteral(", "));
+}
+
+QString captionText(const TSNetwork& network, const RadioMerge* merge)
+{
+    QString text = QStringLiteral("%1, %2").arg(captionName(network, merge)).arg(network.channel());
     if (const QString width = network.humanReadableChannelWidth(); !width.isEmpty())
         text += QStringLiteral(" @ ") + width;
     return text;
@@ -101,6 +122,12 @@ QRectF TSSpectrumView::rectForChart(const QRectF& view) const
 
 void TSSpectrumView::drawDataPoints(QPainter& painter, const ChartScale& scale)
 {
+    drawDataPoints(painter, scale, nullptr);
+}
+
+void TSSpectrumView::drawDataPoints(QPainter& painter, const ChartScale& scale,
+                                    const RadioMerge* merge) const
+{
     const SpectrumLayout layout =
         spectrumLayout(scale.rect, networks(), SpectrumSettings::fromDefaults());
     const bool hasTwoBands = !layout.divider.isEmpty();
@@ -115,7 +142,7 @@ void TSSpectrumView::drawDataPoints(QPainter& painter, const ChartScale& scale)
         chart.scale.rect = rect;
         drawAxis(painter, chart);
         if (chart.scale.plotHeight() > 0)
-            drawNetworks(painter, chart);
+            drawNetworks(painter, chart, merge);
     }
 }
 
@@ -159,7 +186,8 @@ void TSSpectrumView::drawAxis(QPainter& painter, const SpectrumBand& band) const
 
 // Networks --------------------------------------------------------------------------------------
 
-void TSSpectrumView::drawNetworks(QPainter& painter, const SpectrumBand& band) const
+void TSSpectrumView::drawNetworks(QPainter& painter, const SpectrumBand& band,
+                                  const RadioMerge* merge) const
 {
     std::set<std::shared_ptr<const NetworkRow>> collectionsWithSelected;
     for (const NetworkPtr& network : highlightedNetworks())
@@ -169,7 +197,7 @@ void TSSpectrumView::drawNetworks(QPainter& painter, const SpectrumBand& band) c
         if (!isShown(network))
             return;
         const bool isAmongSelected = collectionsWithSelected.contains(network.parentCollection());
-        drawNetwork(painter, band, network, emphasisOf(network, isAmongSelected));
+        drawNetwork(painter, band, network, emphasisOf(network, isAmongSelected), merge);
     };
     // Weak networks lie over strong ones, which would hide them, and selected ones over all.
     for (auto network = networks().rbegin(); network != networks().rend(); ++network) {
@@ -202,7 +230,8 @@ TSSpectrumView::Emphasis TSSpectrumView::emphasisOf(const TSNetwork& network,
 }
 
 void TSSpectrumView::drawNetwork(QPainter& painter, const SpectrumBand& band,
-                                 const TSNetwork& network, const Emphasis& emphasis) const
+                                 const TSNetwork& network, const Emphasis& emphasis,
+                                 const RadioMerge* merge) const
 {
     constexpr double kCaptionBelowChart = 41;
     const auto shape = spectrumShape(network, band, windowScale());
@@ -218,26 +247,28 @@ void TSSpectrumView::drawNetwork(QPainter& painter, const SpectrumBand& band,
                        outlinePen(network, withAlpha(emphasis.color, emphasis.stroke)));
     painter.restore();
     if (Defaults::standard().boolForKey(DefaultKey::ShowNetworkLabel))
-        drawLabel(painter, *shape, network, emphasis);
-    if (network.isUserHighlighted())
+        drawLabel(painter, *shape, network, emphasis, merge);
+    if (network.isUserHighlighted() || (merge && isCollectionHighlighted(network)))
         drawCaption(painter, {shape->center, band.axis.rect().y() - kCaptionBelowChart}, network,
-                    emphasis);
+                    emphasis, merge);
 }
 
 void TSSpectrumView::drawLabel(QPainter& painter, const SpectrumShape& shape,
-                               const TSNetwork& network, const Emphasis& emphasis) const
+                               const TSNetwork& network, const Emphasis& emphasis,
+                               const RadioMerge* merge) const
 {
     constexpr double kBeside = 12; // from the text to the edge of its box
     const double scale = std::min(1.1, windowScale().vertical);
     const TextStyle style = network.isAssociated() ? TextStyle::kBold : TextStyle::kPlain;
-    const bool hasAnnotations = displayAnnotations() && network.hasAnnotations();
+    const bool tellsMore = !merge || network.isUserHighlighted();
+    const bool hasAnnotations = tellsMore && displayAnnotations() && network.hasAnnotations();
     const bool hasDeviceName = displayDeviceName() && network.hasDeviceName();
 
     // From the top: the name, the device's name, the note.
     std::vector<LabelLine> lines;
     const double aboveNote = hasAnnotations ? 14 : 0;
     lines.push_back({aboveNote + (hasDeviceName ? 14 : 0),
-                     network.isHidden() ? network.bssid() : network.ssid(),
+                     labelText(network, merge),
                      {scale * 14, withAlpha(emphasis.color, emphasis.stroke), style}});
     if (hasDeviceName) {
         lines.push_back({aboveNote,
@@ -270,12 +301,13 @@ void TSSpectrumView::drawLabel(QPainter& painter, const SpectrumShape& shape,
 }
 
 void TSSpectrumView::drawCaption(QPainter& painter, const QPointF& origin, const TSNetwork& network,
-                                 const Emphasis& emphasis) const
+                                 const Emphasis& emphasis, const RadioMerge* merge) const
 {
     const double scale = std::min(1.1, windowScale().vertical);
-    centerTextInContextAtOrigin(painter, origin, captionText(network),
+    centerTextInContextAtOrigin(painter, origin, captionText(network, merge),
                                 {scale * 11.5, withAlpha(Qt::white, emphasis.stroke * 0.8)},
-                                viewRect().adjusted(5, 5, -5, -5));
+                                viewRect().adjusted(5, 5, -5, -5),
+                                merge && network.isUserHighlighted() ? network.ssid() : QString());
 }
 
 } // namespace tessara

@@ -2,6 +2,7 @@
 
 #include "charts/ChartNetworks.h"
 #include "charts/PaintedChart.h"
+#include "charts/RadioMerge.h"
 #include "charts/TSThemeHelper.h"
 #include "filtering/TSNetworkCollection.h"
 #include "foundation/Defaults.h"
@@ -21,9 +22,16 @@
 using namespace tessara;
 using testing::Contains;
 using testing::ElementsAre;
+using testing::IsSupersetOf;
 using testing::Not;
 
 namespace {
+
+class OpenSpectrumView final : public TSSpectrumView {
+public:
+    using TSSpectrumView::drawDataPoints;
+    using TSSpectrumView::TSSpectrumView;
+};
 
 class SpectrumViewTest : public testing::Test {
 protected:
@@ -56,7 +64,7 @@ protected:
     }
 
     ManualClock clock{kReferenceTime};
-    TSSpectrumView view{clock};
+    OpenSpectrumView view{clock};
 };
 
 QColor opaque(QColor color)
@@ -250,6 +258,31 @@ TEST_F(SpectrumViewTest, TellsTheChannelsOfSelectedNetworksBelow)
     }
     for (const std::string& text : texts())
         EXPECT_FALSE(text.starts_with("02:00:00:00:00:03")) << text;
+}
+
+TEST_F(SpectrumViewTest, NamesRadiosWhereNetworksAreOrganizedByThem)
+{
+    const auto home = channelNetwork(1, 36, -50);
+    const auto guests = channelNetwork(2, 36, -60); // of the same radio
+    const auto collection = std::make_shared<TSNetworkCollection>(QStringLiteral("Both"));
+    collection->setUserHighlighted(true);
+    guests->setParentCollection(collection);
+    home->setUserHighlighted(true);
+    view.setNetworks({home, guests});
+    const RadioMerge merge = mergeNetworksByRadio(view.networks());
+    RecordingPaintDevice device(view.size());
+    QPainter painter(&device);
+    view.drawDataPoints(painter, {.rect = {45, 56, 1010, 655}, .topMargin = 73}, &merge);
+    painter.end();
+    std::vector<std::string> texts;
+    bool hasBoldName = false;
+    for (const Painted& item : device.painting().texts()) {
+        texts.push_back(item.text.toStdString());
+        hasBoldName = hasBoldName || (item.text == QLatin1String("Net 1") && item.font.bold());
+    }
+    EXPECT_THAT(texts, IsSupersetOf({guests->apid().toStdString(), home->deviceid().toStdString(),
+                                     std::string("Net 1, Net 2, 36 @ 20 MHz")}));
+    EXPECT_TRUE(hasBoldName); // in the caption of the one that is selected itself
 }
 
 TEST_F(SpectrumViewTest, PaintsAnySizeOfChartAndNothingUnderTheMouse)

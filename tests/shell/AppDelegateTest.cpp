@@ -1,6 +1,7 @@
 #include "shell/AppDelegate.h"
 
-#include "charts/TSSignalStrengthView.h"
+#include "charts/TSNetworkDetailsView.h"
+#include "charts/TSSpectrumView.h"
 #include "enrichment/FakeNetServices.h"
 #include "enrichment/RecordingVoice.h"
 #include "foundation/Defaults.h"
@@ -30,6 +31,7 @@
 #include <QFileDialog>
 #include <QHeaderView>
 #include <QLineEdit>
+#include <QMenu>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QSettings>
@@ -289,6 +291,44 @@ TEST_F(AppDelegateTest, ShowsTheSelectionOfTheListInTheChart)
 
     tick();
     EXPECT_EQ(chart.referenceTime(), clock.now());
+}
+
+TEST_F(AppDelegateTest, TellsInTheSpectrumWhatTheListHasColumnsFor)
+{
+    launch();
+    const TSSpectrumView& spectrum = window().graphTabs().spectrumView();
+    QMenu columns;
+    table().addColumnItems(columns);
+    const auto show = [&](QStringView identifier, bool shown) {
+        const QString title = QString::fromUtf8(columnWithIdentifier(identifier)->title);
+        for (QAction* item : columns.actions()) {
+            if (item->text() == title)
+                item->setChecked(shown);
+        }
+    };
+    for (const bool shown : {true, false}) {
+        show(u"ANNOTATIONS", shown);
+        show(u"DEVICE_NAME", !shown);
+        EXPECT_EQ(spectrum.displayAnnotations(), shown);
+        EXPECT_EQ(spectrum.displayDeviceName(), !shown);
+    }
+    window().close();
+    attachStore();
+    launch(); // as the header was left
+    EXPECT_FALSE(window().graphTabs().spectrumView().displayAnnotations());
+    EXPECT_TRUE(window().graphTabs().spectrumView().displayDeviceName());
+}
+
+TEST_F(AppDelegateTest, SelectsTheNetworkWhoseBarIsClicked)
+{
+    launch();
+    engineScans({named("0:0:0:0:0:1", "Beta"), named("0:0:0:0:0:2", "Alpha")});
+    table().setCurrentIndex(table().model()->index(0, 0));
+    TSNetworkDetailsView& chart = window().graphTabs().networkDetails().chart();
+    ASSERT_EQ(chart.network()->ssid(), QStringLiteral("Alpha"));
+    Q_EMIT chart.userDidPickNetwork(QStringLiteral("00:00:00:00:00:01"));
+    EXPECT_EQ(chart.network()->ssid(), QStringLiteral("Beta"));
+    EXPECT_EQ(table().selectionModel()->selectedRows().size(), 1);
 }
 
 TEST_F(AppDelegateTest, ChecksTheStoredIntervalAndScansAtItsOwnPace)
