@@ -1,6 +1,7 @@
 #include "charts/ChartFile.h"
 
 #include "charts/ChartNetworks.h"
+#include "charts/PaintedChart.h"
 #include "charts/TSSpectrumView.h"
 #include "support/ManualClock.h"
 #include "support/QtPrinters.h"
@@ -8,7 +9,6 @@
 #include <QApplication>
 #include <QFile>
 #include <QImage>
-#include <QMouseEvent>
 #include <QTemporaryDir>
 #include <QXmlStreamReader>
 
@@ -98,9 +98,7 @@ TEST_F(ChartFileTest, LooksAsItIsToLook)
     };
     looksLike(view, "signal-dBm.png");
     view.setUnits(Units::kPercent);
-    const QPointF position(460, 130);
-    QMouseEvent move(QEvent::MouseMove, position, position, Qt::NoButton, {}, {});
-    QCoreApplication::sendEvent(&view, &move);
+    moveMouse(view, {460, 190});
     looksLike(view, "signal-percent-bubble.png");
 
     // A bell, flat tops of all widths and the selected one over them.

@@ -1,9 +1,9 @@
 #include "charts/CoCharts.h"
 
 #include "charts/ChartNetworks.h"
+#include "charts/PaintedChart.h"
 #include "charts/TSThemeHelper.h"
 #include "support/QtPrinters.h"
-#include "support/RecordingPaintDevice.h"
 
 #include <QPainter>
 
@@ -57,13 +57,7 @@ protected:
         return device.painting();
     }
 
-    std::vector<std::string> texts() const
-    {
-        std::vector<std::string> texts;
-        for (const Painted& item : painted().texts())
-            texts.push_back(item.text.toStdString());
-        return texts;
-    }
+    std::vector<std::string> texts() const { return textsOf(painted()); }
 
     /// Moves the mouse to the middle of a bar's pitch.
     bool hover(const QRectF& chart, std::size_t count, std::size_t bar)

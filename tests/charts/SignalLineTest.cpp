@@ -112,14 +112,3 @@ TEST(SignalLine, EndsAStretchThatGetsLong)
     EXPECT_NEAR(line.stretches[1].elementAt(0).x - 297, 0.075, 1e-9);
     EXPECT_EQ(line.areas.size(), 1U);
 }
-
-TEST(SignalLine, VisitsOnlyWhatIsVisible)
-{
-    // A day of samples before the five minutes that are shown.
-    auto network = chartNetwork(1, {});
-    for (int age = 86'400; age >= 0; age -= 5)
-        network->addDataPoint(sampleAt(age, -60));
-    const SampleLine line = sampleLine(network->history(), kScale, {});
-    ASSERT_EQ(line.stretches.size(), 1U);
-    EXPECT_EQ(line.stretches[0].elementCount(), 300 / 5 + 1);
-}

@@ -5,11 +5,8 @@
 #include "charts/PaintedChart.h"
 #include "support/ManualClock.h"
 #include "support/QtPrinters.h"
-#include "support/RecordingPaintDevice.h"
 
 #include <QApplication>
-#include <QMouseEvent>
-#include <QPainter>
 
 #include <gmock/gmock.h>
 
@@ -65,13 +62,6 @@ protected:
                                .toStdString());
         }
         return told;
-    }
-
-    void moveMouse(const QPointF& chartPoint)
-    {
-        const QPointF position(chartPoint.x(), view.height() - chartPoint.y());
-        QMouseEvent event(QEvent::MouseMove, position, position, Qt::NoButton, {}, {});
-        QCoreApplication::sendEvent(&view, &event);
     }
 
     /// What the bubble tells, or whatever else was painted last.
@@ -177,10 +167,10 @@ TEST_F(NetworkDetailsViewTest, TellsTheSampleUnderTheMouse)
         show(network, c.metric);
         view.setUnits(c.units);
         c.isAlternate ? view.handleAltKeyDownNotification() : view.handleAltKeyUpNotification();
-        moveMouse(
-            {795, c.units == Units::kDBm ? 230.0 : 327.0}); // at its signal, whatever is shown
+        moveMouse(view, {795, c.units == Units::kDBm ? 230.0
+                                                     : 327.0}); // at its signal, whatever is shown
         EXPECT_EQ(bubble(), c.data);
-        moveMouse({495, 30});
+        moveMouse(view, {495, 30});
         EXPECT_EQ(bubble(), c.noData);
     }
 }
@@ -189,7 +179,7 @@ TEST_F(NetworkDetailsViewTest, PutsTheBubbleOnTheNoiseInWhiteWhileAltIsHeld)
 {
     const NetworkPtr network = chartNetwork(1, {{50, -60}});
     show(network, DetailsMetric::kSignalAndNoise);
-    moveMouse({795, 230});
+    moveMouse(view, {795, 230});
     const auto dot = [this](const QColor& color) {
         for (const Painted& item : painted().painted(Painted::Kind::kFill, color)) {
             if (item.path.boundingRect().width() < 10 && item.color.alpha() == 255)
@@ -210,7 +200,7 @@ TEST_F(NetworkDetailsViewTest, HoversOverTheNetworkThatIsShownWhicheverAreSelect
     elsewhere.channelNumber = 40; // or it would stand beside the chart
     other->setNetwork(elsewhere);
     const auto hovers = [this] {
-        moveMouse({795, 230});
+        moveMouse(view, {795, 230});
         return view.networks().size() == 2 && bubble() == "-60 dBm";
     };
     show(shown, DetailsMetric::kSignal);
@@ -220,7 +210,7 @@ TEST_F(NetworkDetailsViewTest, HoversOverTheNetworkThatIsShownWhicheverAreSelect
 
     const auto keeps = [&](const NetworkPtr& network) {
         view.setNetwork(shown);
-        moveMouse({795, 230});
+        moveMouse(view, {795, 230});
         view.setNetwork(network);
         view.setNetwork(shown);
         return bubble() == "-60 dBm";
@@ -228,14 +218,6 @@ TEST_F(NetworkDetailsViewTest, HoversOverTheNetworkThatIsShownWhicheverAreSelect
     EXPECT_TRUE(keeps(chartNetwork(1, {}))); // another record of the same network
     EXPECT_FALSE(keeps(other));
     EXPECT_FALSE(keeps(nullptr));
-}
-
-TEST_F(NetworkDetailsViewTest, ZoomsOutToEightHours)
-{
-    view.magnifyWithMagnification(1000);
-    EXPECT_EQ(view.timescale(), 8 * 3600);
-    view.magnifyWithMagnification(-1);
-    EXPECT_EQ(view.timescale(), 300);
 }
 
 TEST_F(NetworkDetailsViewTest, ShowsOthersBesideTheNetworkAndPicksTheOneThatIsClicked)
@@ -252,12 +234,7 @@ TEST_F(NetworkDetailsViewTest, ShowsOthersBesideTheNetworkAndPicksTheOneThatIsCl
     QStringList picked;
     QObject::connect(&view, &TSNetworkDetailsView::userDidPickNetwork, &view,
                      [&](const QString& bssid) { picked.append(bssid); });
-    const auto mouse = [this](QEvent::Type type, double x) {
-        const QPointF position(x, 200);
-        QMouseEvent event(type, position, position,
-                          type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton, {}, {});
-        QCoreApplication::sendEvent(&view, &event);
-    };
+    const auto mouse = [this](QEvent::Type type, double x) { sendMouse(view, type, {x, 315}); };
     mouse(QEvent::MouseMove, 300); // over its own chart
     mouse(QEvent::MouseButtonPress, 300);
     EXPECT_THAT(picked, IsEmpty());

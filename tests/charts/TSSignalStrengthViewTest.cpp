@@ -4,10 +4,8 @@
 #include "charts/PaintedChart.h"
 #include "charts/RadioMerge.h"
 #include "filtering/TSNetworkCollection.h"
-#include "foundation/Directories.h"
 #include "support/ManualClock.h"
 #include "support/QtPrinters.h"
-#include "support/RecordingPaintDevice.h"
 
 #include <QApplication>
 #include <QNativeGestureEvent>
@@ -58,33 +56,12 @@ protected:
 
     std::vector<std::string> texts() { return textsOf(view); }
 
-    /// The first text of a kind.
-    static Painted textOf(const Painting& painting, const char* text)
-    {
-        for (const Painted& item : painting.texts()) {
-            if (item.text == QLatin1String(text))
-                return item;
-        }
-        ADD_FAILURE() << "no " << text;
-        return {};
-    }
-
     void select(std::initializer_list<NetworkPtr> networks)
     {
         for (const NetworkPtr& network : networks)
             network->setUserHighlighted(true);
         view.setItemHighlightEnabled(true);
     }
-
-    void mouse(QEvent::Type type, const QPointF& chartPoint, Qt::MouseButtons buttons = {})
-    {
-        const QPointF position(chartPoint.x(), view.height() - chartPoint.y());
-        QMouseEvent event(type, position, position,
-                          type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton, buttons, {});
-        QCoreApplication::sendEvent(&view, &event);
-    }
-
-    void moveMouse(const QPointF& chartPoint) { mouse(QEvent::MouseMove, chartPoint); }
 
     void leave()
     {
@@ -243,21 +220,12 @@ TEST_F(SignalStrengthViewTest, DrawsLongHistoriesInShortStretchesFromThenOn)
 
 TEST_F(SignalStrengthViewTest, NamesTheOneSelectedNetworkAboveTheChart)
 {
-    class Notes final : public AnnotationsDirectory {
-    public:
-        std::optional<QString> annotationsFor(const QString& /*bssid*/) const override
-        {
-            return QStringLiteral("by the stairs");
-        }
-        void setAnnotations(const QString& /*bssid*/, const QString& /*text*/) override {}
-    } notes;
-    Directories::installed().annotations = &notes;
+    const NoteByTheStairs notes(u'1');
     const auto first = levelNetwork(1, -50);
     const auto second = levelNetwork(2, -60);
     select({first});
     view.setNetworks({first, second});
     const Painting painting = painted();
-    Directories::installed().annotations = nullptr;
 
     const Painted title = textOf(painting, "02:00:00:00:00:01");
     const double width = QFontMetricsF(title.font).horizontalAdvance(title.text);
@@ -288,33 +256,33 @@ TEST_F(SignalStrengthViewTest, FollowsTheMouseWithABubble)
         const auto all = texts();
         return std::vector(all.end() - 2, all.end());
     };
-    moveMouse(above(100, 60));
+    moveMouse(view, above(100, 60));
     EXPECT_EQ(texts().back(), "02:00:00:00:00:01"); // too far away
-    moveMouse(above(100, 40));
+    moveMouse(view, above(100, 40));
     EXPECT_THAT(bubble(), ElementsAre("-50 dBm", testing::EndsWith(":40")));
-    moveMouse(above(151, 200)); // once caught, by time alone
+    moveMouse(view, above(151, 200)); // once caught, by time alone
     EXPECT_THAT(bubble(), ElementsAre("-50 dBm", testing::EndsWith(":50")));
     view.setUnits(Units::kPercent);
     EXPECT_EQ(bubble()[0], "79%");
     view.setUnits(Units::kDBm);
-    moveMouse({20, 300}); // beside the chart
+    moveMouse(view, {20, 300}); // beside the chart
     EXPECT_EQ(texts().back(), "02:00:00:00:00:01");
-    moveMouse(above(100, 200));
+    moveMouse(view, above(100, 200));
     EXPECT_EQ(bubble()[0], "-50 dBm");
     leave();
-    moveMouse(above(100, 200));
+    moveMouse(view, above(100, 200));
     EXPECT_EQ(texts().back(), "02:00:00:00:00:01");
     QApplication::setActiveWindow(nullptr);
-    moveMouse(above(100, 40)); // behind other windows
+    moveMouse(view, above(100, 40)); // behind other windows
     EXPECT_EQ(texts().back(), "02:00:00:00:00:01");
     QApplication::setActiveWindow(&view);
 
     // Several networks are always told apart by height too.
     select({second});
     view.setNetworks({first, second});
-    moveMouse(above(100, 40));
+    moveMouse(view, above(100, 40));
     EXPECT_EQ(bubble()[0], "-50 dBm");
-    moveMouse({above(100, 0).x(), 120});
+    moveMouse(view, {above(100, 0).x(), 120});
     EXPECT_EQ(bubble()[0], "-90 dBm");
 }
 
@@ -323,7 +291,7 @@ TEST_F(SignalStrengthViewTest, TellsASampleWithoutData)
     const auto network = chartNetwork(1, {{100, -120}});
     select({network});
     view.setNetworks({network});
-    moveMouse(view.scale().makePointInRect(network->history().back(), Metric::kSignal));
+    moveMouse(view, view.scale().makePointInRect(network->history().back(), Metric::kSignal));
     EXPECT_EQ(std::ranges::count(texts(), "No Data"), 1);
 }
 
@@ -334,7 +302,7 @@ TEST_F(SignalStrengthViewTest, LosesTheBubbleWithTheSelectionNotWithTheNetwork)
     select({network});
     view.setNetworks({network, other});
     const auto hasBubble = [this] { return std::ranges::count(texts(), "-50 dBm") > 0; };
-    moveMouse(view.scale().makePointInRect(network->history()[5], Metric::kSignal));
+    moveMouse(view, view.scale().makePointInRect(network->history()[5], Metric::kSignal));
     EXPECT_TRUE(hasBubble());
     view.setNetworks({other});
     EXPECT_TRUE(hasBubble());
@@ -389,9 +357,7 @@ TEST_F(SignalStrengthViewTest, PaintsItsDataOnceForEachChangeAndNeverWhileHidden
     tabs.setCurrentIndex(1);
     EXPECT_EQ(paintings(), 1);
     for (int x = 100; x < 700; x += 50) { // the bubble moves
-        QMouseEvent event(QEvent::MouseMove, QPointF(x, 150), QPointF(x, 150), Qt::NoButton, {},
-                          {});
-        QCoreApplication::sendEvent(chart, &event);
+        moveMouse(*chart, {static_cast<double>(x), 150});
         EXPECT_EQ(paintings(), 0);
     }
     chart->setNetworks({network});

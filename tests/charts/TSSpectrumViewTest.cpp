@@ -3,16 +3,11 @@
 #include "charts/ChartNetworks.h"
 #include "charts/PaintedChart.h"
 #include "charts/RadioMerge.h"
-#include "charts/TSThemeHelper.h"
 #include "filtering/TSNetworkCollection.h"
 #include "foundation/Defaults.h"
-#include "foundation/Directories.h"
 #include "support/ManualClock.h"
 #include "support/QtPrinters.h"
-#include "support/RecordingPaintDevice.h"
 
-#include <QCoreApplication>
-#include <QMouseEvent>
 #include <QPainter>
 
 #include <gmock/gmock.h>
@@ -45,7 +40,6 @@ protected:
         for (const auto* key : {DefaultKey::HideDFSChannels, DefaultKey::HideChannelGraphs,
                                 DefaultKey::ShowNetworkLabel})
             Defaults::standard().remove(key);
-        Directories::installed().annotations = nullptr;
     }
 
     Painting painted() { return paintingOf(view); }
@@ -84,20 +78,6 @@ TEST_F(SpectrumViewTest, ShowsBothBandsWithTheirChannelsAndNoTime)
         EXPECT_THAT(all, Contains(text));
     EXPECT_EQ(std::ranges::count(all, "-50"), 2); // on both sides
     EXPECT_THAT(all, Not(Contains("Now")));
-    // The frame is taken away between the bands, and their strips lie above.
-    const Painting painting = painted();
-    const auto strips = [&](const QColor& color) {
-        std::vector<QRectF> rects;
-        for (const Painted& item : painting.painted(Painted::Kind::kFill, color))
-            rects.push_back(item.path.boundingRect());
-        return rects;
-    };
-    EXPECT_THAT(strips(TSThemeHelper::backgroundColorForChartView()),
-                Contains(QRectF(497.5, 55, 4, 657)));
-    EXPECT_THAT(strips(TSThemeHelper::colorFor2Dot4GHzBand()),
-                ElementsAre(QRectF(45, 713, 452.5, 2)));
-    EXPECT_THAT(strips(TSThemeHelper::colorFor5GHzBand()),
-                ElementsAre(QRectF(501.5, 713, 553.5, 2)));
 }
 
 TEST_F(SpectrumViewTest, FollowsTheSettingsAtEachPainting)
@@ -190,16 +170,7 @@ TEST_F(SpectrumViewTest, ShowsOnlyWhatTheLastScanSawAndTheSelectedAsGhosts)
 
 TEST_F(SpectrumViewTest, LabelsNetworksAboveTheirShapes)
 {
-    class Notes final : public AnnotationsDirectory {
-    public:
-        std::optional<QString> annotationsFor(const QString& bssid) const override
-        {
-            return bssid.endsWith(u'2') ? std::optional(QStringLiteral("by the stairs"))
-                                        : std::nullopt;
-        }
-        void setAnnotations(const QString& /*bssid*/, const QString& /*text*/) override {}
-    } notes;
-    Directories::installed().annotations = &notes;
+    const NoteByTheStairs notes(u'2');
     const auto plain = channelNetwork(1, 1, -55);
     const auto noted = channelNetwork(2, 36, -55);
     noted->setAssociated(true);
@@ -209,14 +180,7 @@ TEST_F(SpectrumViewTest, LabelsNetworksAboveTheirShapes)
     nameless->setNetwork(dictionary);
     view.setNetworks({plain, noted, nameless});
     const Painting painting = painted();
-    const auto label = [&](const char* text) {
-        for (const Painted& item : painting.texts()) {
-            if (item.text == QLatin1String(text))
-                return item;
-        }
-        ADD_FAILURE() << "no " << text;
-        return Painted{};
-    };
+    const auto label = [&](const char* text) { return textOf(painting, text); };
     const double top = 56 + 291; // half of the scale
     EXPECT_NEAR(label("Net 1").origin.y(), top + 13, 3);
     EXPECT_FALSE(label("Net 1").font.bold());
@@ -274,15 +238,11 @@ TEST_F(SpectrumViewTest, NamesRadiosWhereNetworksAreOrganizedByThem)
     QPainter painter(&device);
     view.drawDataPoints(painter, {.rect = {45, 56, 1010, 655}, .topMargin = 73}, &merge);
     painter.end();
-    std::vector<std::string> texts;
-    bool hasBoldName = false;
-    for (const Painted& item : device.painting().texts()) {
-        texts.push_back(item.text.toStdString());
-        hasBoldName = hasBoldName || (item.text == QLatin1String("Net 1") && item.font.bold());
-    }
-    EXPECT_THAT(texts, IsSupersetOf({guests->apid().toStdString(), home->deviceid().toStdString(),
-                                     std::string("Net 1, Net 2, 36 @ 20 MHz")}));
-    EXPECT_TRUE(hasBoldName); // in the caption of the one that is selected itself
+    EXPECT_THAT(textsOf(device.painting()),
+                IsSupersetOf({guests->apid().toStdString(), home->deviceid().toStdString(),
+                              std::string("Net 1, Net 2, 36 @ 20 MHz")}));
+    EXPECT_TRUE(textOf(device.painting(), "Net 1")
+                    .font.bold()); // in the caption of the one that is selected itself
 }
 
 TEST_F(SpectrumViewTest, PaintsAnySizeOfChartAndNothingUnderTheMouse)
@@ -291,8 +251,7 @@ TEST_F(SpectrumViewTest, PaintsAnySizeOfChartAndNothingUnderTheMouse)
     network->setUserHighlighted(true);
     view.setNetworks({network, channelNetwork(2, 36, -50)});
     const std::size_t items = painted().items.size();
-    QMouseEvent move(QEvent::MouseMove, QPointF(400, 300), QPointF(400, 300), Qt::NoButton, {}, {});
-    QCoreApplication::sendEvent(&view, &move);
+    moveMouse(view, {400, 435});
     EXPECT_EQ(painted().items.size(), items);
     for (const QSize size : {QSize(1, 1), QSize(90, 88), QSize(94, 89), QSize(20, 400)}) {
         view.resize(size);
