@@ -98,6 +98,7 @@ double ChannelAxis::xFor(std::int64_t position, std::int64_t channel) const
 
 double ChannelAxis::tickX(int channel) const
 {
+    // The shape of a network on channel 14 goes by its number and not by this tick.
     return xFor(channel == 14 ? 15 : channel, channel);
 }
 

@@ -17,10 +17,10 @@ bool isWithin(const QPainterPath& path, const QRectF& rect)
            box.bottom() <= rect.bottom();
 }
 
-/// The parts of a path with their curves as short lines.
+/// The parts of a path with their curves as short lines, fine enough also for print.
 QList<QPolygonF> flattened(const QPainterPath& path)
 {
-    constexpr double kFineness = 8; // lines a point, or nearly so
+    constexpr double kFineness = 8; // a power of two: points stay exactly where they are
     QList<QPolygonF> parts = path.toSubpathPolygons(QTransform::fromScale(kFineness, kFineness));
     for (QPolygonF& part : parts)
         part = QTransform::fromScale(1 / kFineness, 1 / kFineness).map(part);

@@ -48,6 +48,12 @@ void TSNetworkDetailsView::setNetworks(const NetworkList& networks)
     configureCoCharts();
 }
 
+void TSNetworkDetailsView::setDisplayOnlyLastSeen(bool display)
+{
+    TSSignalStrengthView::setDisplayOnlyLastSeen(display);
+    configureCoCharts();
+}
+
 void TSNetworkDetailsView::configureCoCharts()
 {
     m_coCharts.setNetworks(networks(), m_network, displayOnlyLastSeen());

@@ -22,6 +22,7 @@ public:
     void setNetwork(NetworkPtr network);
     /// The networks of the table.
     void setNetworks(const NetworkList& networks) override;
+    void setDisplayOnlyLastSeen(bool display) override;
 
     DetailsMetric detailsMetric() const { return m_metric; }
     void setMetric(DetailsMetric metric);

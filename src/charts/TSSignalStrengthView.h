@@ -56,7 +56,7 @@ public:
     bool displayDeviceName() const { return m_displayDeviceName; }
     void setDisplayDeviceName(bool display);
     bool displayOnlyLastSeen() const { return m_displayOnlyLastSeen; }
-    void setDisplayOnlyLastSeen(bool display);
+    virtual void setDisplayOnlyLastSeen(bool display);
     /// The Option key, which is Alt here, is held: it asks for what else there is to tell of the
     /// sample under the mouse.
     bool isAlternate() const { return m_moDataPointAlternate; }

@@ -208,10 +208,3 @@ TEST(TimeAxis, TellsNoTimesThatMakeNoSense)
         EXPECT_TRUE(timeTicks(chart).ticks.empty());
     }
 }
-
-TEST(TimeAxis, CallsARecentScanNow)
-{
-    EXPECT_TRUE(isNow(100, 100));
-    EXPECT_TRUE(isNow(100, 130));
-    EXPECT_FALSE(isNow(100, 130.1));
-}

@@ -57,9 +57,14 @@ TEST(RadioMerge, ChoosesOneNetworkForEachRadioAndCollectsItsNames)
     EXPECT_THAT(merge.networks(), testing::UnorderedElementsAre(guests, far)); // the strongest
     ASSERT_TRUE(merge.ssids(*home));
     EXPECT_EQ(*merge.ssids(*home), QStringList({QStringLiteral("Home"), QStringLiteral("Guests")}));
-    EXPECT_FALSE(merge.ssids(*named("aa:99:22:33:44:50", "Other", 6, -90)));
+    const auto other = named("aa:99:22:33:44:50", "Other", 6, -90);
+    EXPECT_FALSE(merge.ssids(*other) || merge.labelOf(*other));
+    // Several names are told by their access point, unless one of them is selected.
+    EXPECT_EQ(merge.labelOf(*home), home->apid());
+    EXPECT_EQ(merge.labelOf(*far), far->deviceid());
 
     again->setUserHighlighted(true); // weaker, but the user's choice
+    EXPECT_EQ(merge.labelOf(*again), again->deviceid());
     EXPECT_THAT(mergeNetworksByRadio(networks).networks(),
                 testing::UnorderedElementsAre(again, far));
 }
