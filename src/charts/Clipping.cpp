@@ -1,10 +1,11 @@
 #include "charts/Clipping.h"
 
+#include <QLineF>
 #include <QPolygonF>
 #include <QTransform>
 
 #include <algorithm>
-#include <utility>
+#include <optional>
 
 namespace tessara {
 
@@ -55,12 +56,11 @@ QPolygonF clippedAt(Edge edge, const QPolygonF& polygon, const QRectF& rect)
     return result;
 }
 
-} // namespace
-
+/// The part of a line within a rectangle, its direction kept (Liang and Barsky); none of a line
+/// that only touches it.
 std::optional<QLineF> clippedLine(const QLineF& line, const QRectF& rect)
 {
-    // Of the way from its first end to the other (Liang and Barsky).
-    double enters = 0;
+    double enters = 0; // of the way from its first end to the other
     double leaves = 1;
     for (const Edge edge : kEdges) {
         const double a = edge(line.p1(), rect);
@@ -77,6 +77,8 @@ std::optional<QLineF> clippedLine(const QLineF& line, const QRectF& rect)
     return QLineF(enters > 0 ? line.pointAt(enters) : line.p1(),
                   leaves < 1 ? line.pointAt(leaves) : line.p2());
 }
+
+} // namespace
 
 QPainterPath clippedOutline(const QPainterPath& path, const QRectF& rect)
 {

@@ -9,7 +9,7 @@ QRectF qualityArea(const TSNetwork& network, const ChartScale& scale, Metric met
     const RunningStatistic& values =
         metric == Metric::kSNR ? network.snrStatistic() : network.rssiStatistic();
     return {scale.rect.x(), scale.rect.y(), scale.rect.width(),
-            std::clamp(scale.heightFor(values.max, metric), 0.0, scale.rect.height())};
+            std::max(std::min(scale.heightFor(values.max, metric), scale.rect.height()), 0.0)};
 }
 
 } // namespace tessara

@@ -137,6 +137,7 @@ TEST(QualityArea, ReachesFromTheFloorToTheBestValue)
     EXPECT_EQ(height({{20, -80}, {10, -60}, {0, -120}}, Units::kDBm, Metric::kSignal), 200);
     EXPECT_EQ(height({{10, -60}}, Units::kPercent, Metric::kSignal), 66 * 4.5);
     EXPECT_EQ(height({{10, -60}}, Units::kPercent, Metric::kSNR), 32 * 5);
+    EXPECT_EQ(height({{0, 0}}, Units::kDBm, Metric::kSignal), 460); // the chart's, and no more
     EXPECT_EQ(height({{0, -120}}, Units::kDBm, Metric::kSignal), 0);
     EXPECT_EQ(height({{0, -101}}, Units::kDBm, Metric::kSNR), 0); // noise above the signal
 }
