@@ -109,27 +109,3 @@ TEST_F(AvahiDaemonTest, ASearchSurvivesTheDaemonsRestart)
     published = publish(QStringLiteral("Cellar"), QStringLiteral("waMA=raMA=1-2"));
     EXPECT_TRUE(hasName("1:2", QStringLiteral("Cellar")));
 }
-
-TEST_F(AvahiDaemonTest, AsksHundredsOfServicesInTurn)
-{
-    constexpr int kServices = 200;
-    for (int i = 0; i < kServices; ++i) {
-        QFile file(QStringLiteral("/etc/avahi/services/%1.service").arg(i));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write("<?xml version=\"1.0\"?><!DOCTYPE service-group SYSTEM \"avahi-service.dtd\">"
-                   "<service-group><name>AP " +
-                   QByteArray::number(i) +
-                   "</name><service><type>_airport._tcp</type><port>5009</port>"
-                   "<txt-record>waMA=raMA=" +
-                   QByteArray::number(i) + "</txt-record></service></service-group>\n");
-    }
-    const auto avahi = startAvahi();
-    browser.searchServices();
-    int known = 0;
-    EXPECT_TRUE(eventually([&] {
-        clock.advance(0.1);
-        while (known < kServices && browser.deviceNameFor(QString::number(known)))
-            ++known;
-        return known == kServices;
-    })) << known;
-}
