@@ -1,49 +1,54 @@
 #include "enrichment/TextToSpeechVoice.h"
 
-#include "foundation/Logging.h"
+#include "enrichment/SpeechEngine.h"
 
+#include <chrono>
 #include <utility>
 
 namespace tessara {
 
+TextToSpeechVoice::~TextToSpeechVoice()
+{
+    if (!m_thread)
+        return;
+    m_thread->quit();
+    constexpr std::chrono::seconds kPatience{3};
+    if (!m_thread->wait(std::chrono::milliseconds(kPatience).count()))
+        static_cast<void>(m_thread.release()); // an engine that hangs must not keep the program
+}
+
 void TextToSpeechVoice::startSpeakingString(const QString& text)
 {
-    if (!std::exchange(m_hasLookedForEngine, true))
-        startEngine();
-    if (!m_engine)
-        return;
+    if (!m_thread)
+        startThread();
     setSpeaking(true);
-    m_engine->say(text);
+    QMetaObject::invokeMethod(
+        m_engine, [engine = m_engine, text, request = ++m_request] { engine->say(text, request); });
 }
 
 void TextToSpeechVoice::stopSpeaking()
 {
-    if (!m_engine)
+    if (!m_thread)
         return;
-    m_engine->stop();
+    QMetaObject::invokeMethod(
+        m_engine, [engine = m_engine, request = ++m_request] { engine->stop(request); });
     setSpeaking(false);
 }
 
-void TextToSpeechVoice::startEngine()
+void TextToSpeechVoice::startThread()
 {
-    QStringList names = QTextToSpeech::availableEngines();
-    if (!names.isEmpty())
-        names.prepend(QString()); // the one that Qt prefers
-    for (const QString& name : names) {
-        auto engine = std::make_unique<QTextToSpeech>(name);
-        if (engine->state() == QTextToSpeech::Error)
-            continue;
-        connect(engine.get(), &QTextToSpeech::stateChanged, this,
-                &TextToSpeechVoice::engineStateDidChange);
-        m_engine = std::move(engine);
-        return;
-    }
-    qCInfo(lcEnrichment, "There is no speech engine: nothing is said.");
+    m_thread = std::make_unique<QThread>();
+    m_engine = new SpeechEngine;
+    m_engine->moveToThread(m_thread.get());
+    connect(m_thread.get(), &QThread::finished, m_engine, &QObject::deleteLater);
+    connect(m_engine, &SpeechEngine::speakingDidChange, this, &TextToSpeechVoice::engineDidChange);
+    m_thread->start();
 }
 
-void TextToSpeechVoice::engineStateDidChange(QTextToSpeech::State state)
+void TextToSpeechVoice::engineDidChange(bool isSpeaking, int request)
 {
-    setSpeaking(state == QTextToSpeech::Speaking);
+    if (request == m_request) // else it does not know yet what it is to say
+        setSpeaking(isSpeaking);
 }
 
 void TextToSpeechVoice::setSpeaking(bool speaking)

@@ -2,30 +2,36 @@
 
 #include "enrichment/Voice.h"
 
-#include <QTextToSpeech>
+#include <QThread>
 
 #include <memory>
 
 namespace tessara {
 
-/// The voice of the speech engine that the machine has. The engine is started when there is first
-/// something to say; where there is none, that is logged once and nothing is said.
+class SpeechEngine;
+
+/// The voice of the machine's speech engine, which is started with the first text. Where there is
+/// none it speaks to no avail.
 class TextToSpeechVoice final : public Voice {
     Q_OBJECT
 
 public:
+    TextToSpeechVoice() = default;
+    ~TextToSpeechVoice() override;
+
     bool isSpeaking() const override { return m_isSpeaking; }
     void startSpeakingString(const QString& text) override;
     void stopSpeaking() override;
 
 private:
-    void startEngine();
-    void engineStateDidChange(QTextToSpeech::State state);
+    void startThread();
+    void engineDidChange(bool isSpeaking, int request);
     void setSpeaking(bool speaking);
 
-    std::unique_ptr<QTextToSpeech> m_engine; ///< none before the first text, or at all
-    bool m_hasLookedForEngine = false;
-    bool m_isSpeaking = false; ///< from the request on, which the engine lags behind
+    std::unique_ptr<QThread> m_thread; ///< the engine's; none before the first text
+    SpeechEngine* m_engine = nullptr;  ///< goes with its thread
+    int m_request = 0;                 ///< what the engine has been asked for last
+    bool m_isSpeaking = false;         ///< from the request on, which the engine lags behind
 };
 
 } // namespace tessara

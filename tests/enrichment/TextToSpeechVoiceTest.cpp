@@ -1,6 +1,7 @@
 #include "enrichment/TextToSpeechVoice.h"
 
 #include <QCoreApplication>
+#include <QTest>
 
 #include <gtest/gtest.h>
 
@@ -17,7 +18,7 @@ TEST(TextToSpeechVoice, IsSilentWithoutAnEngineAndSaysSoOnce)
     for (int i = 0; i < 2; ++i) {
         voice.stopSpeaking();
         voice.startSpeakingString(QStringLiteral("Hello"));
-        EXPECT_FALSE(voice.isSpeaking());
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !voice.isSpeaking(); }, 10'000));
     }
     const std::string log = testing::internal::GetCapturedStderr();
     EXPECT_EQ(std::ranges::count(log, '\n'), 1) << log;
