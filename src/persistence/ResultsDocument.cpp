@@ -32,7 +32,8 @@ ResultsDocument::~ResultsDocument()
     if (m_isOpenCancelled)
         *m_isOpenCancelled = true;
     // But what is being saved is still saved.
-    if (m_save && !*m_save->job.isCancelled && m_save->copyRecords(std::numeric_limits<std::size_t>::max()))
+    if (m_save && !*m_save->job.isCancelled &&
+        m_save->copyRecords(std::numeric_limits<std::size_t>::max()))
         m_save->write([](double) { return true; });
 }
 
