@@ -44,6 +44,17 @@ class Manual(unittest.TestCase):
         )
 
 
+class Version(unittest.TestCase):
+    def test_package_and_software_centres_are_told_the_newest(self):
+        words = subprocess.run(
+            [os.environ["TESSARA_CLI"], "--version"], check=True, capture_output=True, text=True
+        ).stdout.split()
+        (metainfo,) = PACKAGING.glob("*.metainfo.xml")
+        releases = re.findall(r'<release version="([^"]*)"', metainfo.read_text())
+        changes = re.findall(r"^tessara \((.*?)\)", (PACKAGING / "debian/changelog").read_text())
+        self.assertEqual([words[-1], words[-1]], [releases[0], changes[0]])
+
+
 class Validated(unittest.TestCase):
     def check(self, *command):
         if not shutil.which(command[0]):
