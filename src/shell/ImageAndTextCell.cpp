@@ -31,7 +31,7 @@ Look lookOf(const TSSideViewItem& item, int column, const QPalette& palette)
     const bool isDark = palette.color(QPalette::Base).lightnessF() < 0.5F;
     const bool isDetail = column == SideViewModel::kDetailColumn;
     if (item.identifier == QLatin1String("group"))
-        return {.textColor = palette.color(QPalette::PlaceholderText)};
+        return {.textColor = dimmed(palette)};
     if (item.identifier == QLatin1String("category")) {
         const QColor color = legible(Theme::textColorForCategory(), palette);
         if (isDetail)

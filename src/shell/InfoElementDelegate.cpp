@@ -53,7 +53,7 @@ QColor colorOf(PieceStyle style, const QPalette& palette)
     case PieceStyle::kBitsNotes:
         return legible(Theme::textColorForInfoElementFieldValueNotes(), palette);
     case PieceStyle::kNotes:
-        return palette.color(QPalette::PlaceholderText);
+        return dimmed(palette);
     case PieceStyle::kPlain:
     case PieceStyle::kBitsName:
         break;

@@ -19,4 +19,12 @@ inline QColor legible(const QColor& color, const QPalette& palette)
                             lightness, color.alphaF());
 }
 
+/// Text that stands back: a hint, a heading. The palette's own colour for it may be illegible.
+inline QColor dimmed(const QPalette& palette)
+{
+    QColor color = palette.color(QPalette::Text);
+    color.setAlphaF(0.55F);
+    return color;
+}
+
 } // namespace tessara

@@ -79,7 +79,7 @@ NetworkDetailsForm::NetworkDetailsForm(QWidget* parent)
     setFixedWidth(kWidth * fontMetrics().averageCharWidth());
     auto* placeholder = new QLabel(localized("Select a network"));
     placeholder->setAlignment(Qt::AlignCenter);
-    setTextColor(*placeholder, palette().color(QPalette::PlaceholderText));
+    setTextColor(*placeholder, dimmed(palette()));
     m_pages->addWidget(placeholder);
     makeForm();
     setWidget(m_pages);

@@ -4,6 +4,7 @@
 #include "persistence/ClipboardText.h"
 #include "shell/HeaderMenu.h"
 #include "shell/InfoElementDelegate.h"
+#include "shell/LegibleColor.h"
 
 #include <QClipboard>
 #include <QContextMenuEvent>
@@ -218,7 +219,7 @@ void TSAdvancedDetailsView::paintEvent(QPaintEvent* event)
     if (m_model.rowCount() > 0)
         return;
     QPainter painter(viewport());
-    painter.setPen(palette().color(QPalette::PlaceholderText));
+    painter.setPen(dimmed(palette()));
     painter.drawText(viewport()->rect(), Qt::AlignCenter | Qt::TextWordWrap, m_placeholderText);
 }
 

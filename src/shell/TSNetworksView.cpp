@@ -3,6 +3,7 @@
 #include "foundation/Localized.h"
 #include "shell/ColumnLayout.h"
 #include "shell/HeaderMenu.h"
+#include "shell/LegibleColor.h"
 #include "shell/NetworkCellDelegate.h"
 
 #include <QApplication>
@@ -392,7 +393,7 @@ void TSNetworksView::paintEvent(QPaintEvent* event)
     if (m_model.rowCount() > 0)
         return;
     QPainter painter(viewport());
-    painter.setPen(palette().color(QPalette::PlaceholderText));
+    painter.setPen(dimmed(palette()));
     painter.drawText(viewport()->rect(), Qt::AlignCenter | Qt::TextWordWrap, m_placeholderText);
 }
 
