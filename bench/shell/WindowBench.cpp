@@ -1,20 +1,12 @@
 // The whole window: how long a tick keeps the main thread from its events, how long opening and
 // saving a large file do, and the memory that an hour of scanning takes.
-#include "enrichment/FakeNetServices.h"
-#include "enrichment/RecordingVoice.h"
-#include "foundation/Defaults.h"
-#include "foundation/Directories.h"
 #include "persistence/ResultsFile.h"
-#include "scanning/ScriptedInterface.h"
-#include "shell/AppDelegate.h"
 #include "shell/GraphTabs.h"
 #include "shell/MainMenu.h"
-#include "support/ManualClock.h"
+#include "shell/RunningApplication.h"
 
 #include <QApplication>
 #include <QFileDialog>
-#include <QSettings>
-#include <QTemporaryDir>
 #include <QTimer>
 
 #include <benchmark/benchmark.h>
@@ -28,8 +20,6 @@
 using namespace tessara;
 
 namespace {
-
-constexpr double kTick = ScanCycle::kMergeInterval;
 
 /// Time of this thread's own work: what else the machine does is no pause of ours.
 class Stopwatch {
@@ -53,43 +43,19 @@ double heapInUse()
     return static_cast<double>(info.uordblks + info.hblkhd);
 }
 
-class OneInterfaceService final : public WiFiService {
-public:
-    std::shared_ptr<CWInterface> interface() override { return wifi; }
-    std::shared_ptr<CWInterface> interfaceWithName(const QString&) override { return nullptr; }
-    QStringList interfaceNames() override { return {}; }
-
-    std::shared_ptr<ScriptedInterface> wifi = std::make_shared<ScriptedInterface>();
-};
-
-/// The application at 1100 by 735, on time that moves as fast as it can.
-class Application {
+/// The application at 1100 by 735, where nobody is asked.
+class Application : public RunningApplication {
 public:
     Application()
     {
-        m_pause.shutDown = true; // one round of the engine's loop at each run of its body
-        Defaults::standard().attach(std::make_unique<QSettings>(
-            m_folder.filePath(QStringLiteral("tessara.conf")), QSettings::IniFormat));
         Defaults::standard().setValue(DefaultKey::SaveAlertSupressionButton, 1);
-        m_delegate = std::make_unique<AppDelegate>(
-            m_service, m_vendors, m_annotations, m_deviceNames, m_voice,
-            EngineServices{m_clock, m_pause, m_notifications,
-                           [this](auto body) { m_bodies.push_back(std::move(body)); }});
-        m_delegate->applicationWillFinishLaunching();
+        launch();
         window().resize(1100, 735);
-        QCoreApplication::processEvents();
+        settle();
     }
-    ~Application()
-    {
-        m_delegate.reset();
-        Defaults::standard().attach(nullptr);
-    }
-    Application(const Application&) = delete;
-    Application& operator=(const Application&) = delete;
 
-    MainWindow& window() { return m_delegate->window(); }
-    QString path(const char* name) const { return m_folder.filePath(QLatin1String(name)); }
-    const NetworkList& networks() { return m_delegate->scanCycle().networks(); }
+    QString path(const char* name) const { return directory.filePath(QLatin1String(name)); }
+    const NetworkList& networks() { return delegate->scanCycle().networks(); }
 
     /// A scan of so many networks, whose signals move; a tenth of them is out of sight.
     void scan(int count)
@@ -105,35 +71,18 @@ public:
             each.informationElementData = QByteArray(250, '\x30');
             found.push_back(std::move(each));
         }
-        m_service.wifi->scans = {{std::move(found), {}}};
-        m_bodies.back()();
+        engineScans(std::move(found));
     }
     /// @return the seconds that the main thread was at work, painting included
-    double tick()
+    double timedTick()
     {
         const Stopwatch watch;
-        m_clock.advance(kTick);
-        QCoreApplication::processEvents();
+        tick();
         return watch.seconds();
     }
 
-    AppDelegate& delegate() { return *m_delegate; }
-
 private:
-    QTemporaryDir m_folder;
-    ManualClock m_clock;
-    ManualPause m_pause{m_clock};
-    NotificationCenter m_notifications;
-    OneInterfaceService m_service;
-    TSVendorDatabaseHelper m_vendors{
-        {.database = m_folder.filePath(QStringLiteral("vendors.plist"))}};
-    TSAnnotationsHelper m_annotations{m_folder.filePath(QStringLiteral("annotations.plist"))};
-    FakeNetServices m_netServices;
-    TSNetServiceBrowser m_deviceNames{m_netServices, m_clock};
-    RecordingVoice m_voice;
-    std::vector<std::function<void()>> m_bodies;
     std::mt19937 m_random; // NOLINT(cert-msc51-cpp): the same networks at each run
-    std::unique_ptr<AppDelegate> m_delegate;
 };
 
 /// A tick of the window with a tab of the lower half: merge, filter, sort, charts and paint.
@@ -149,7 +98,7 @@ void tick(benchmark::State& state)
     std::vector<double> ticks;
     for (auto _ : state) {
         application.scan(count);
-        ticks.push_back(application.tick());
+        ticks.push_back(application.timedTick());
         state.SetIterationTime(ticks.back());
     }
     if (application.networks().size() < static_cast<std::size_t>(count) * 9 / 10)
@@ -201,7 +150,8 @@ NetworkList recordsOfADay()
         networks.push_back(std::make_shared<TSNetwork>(dictionary, kStart));
         for (int i = 0; i < kSamples; ++i) {
             const int rssi = -40 - n % 50 - static_cast<int>(random() % 4);
-            networks.back()->addDataPoint(TSDataPoint(rssi, -92, n % 30, 10, kStart + kTick * i));
+            networks.back()->addDataPoint(
+                TSDataPoint(rssi, -92, n % 30, 10, kStart + ScanCycle::kMergeInterval * i));
         }
     }
     return networks;
@@ -240,7 +190,7 @@ void pauses(benchmark::State& state)
             qFatal("%s", qUtf8Printable(error));
         application.window().graphTabs().selectGraph(static_cast<int>(state.range(0)));
         state.counters["open_ms"] =
-            1000 * longestPause(application, [&] { application.delegate().openFile(path); });
+            1000 * longestPause(application, [&] { application.delegate->openFile(path); });
         if (application.networks().size() != kNetworks)
             qFatal("the file is not shown");
         state.counters["save_ms"] = 1000 * longestPause(application, [&] {

@@ -2,12 +2,8 @@
 
 #include "charts/TSNetworkDetailsView.h"
 #include "charts/TSSpectrumView.h"
-#include "enrichment/FakeNetServices.h"
-#include "enrichment/RecordingVoice.h"
 #include "foundation/Defaults.h"
-#include "foundation/Directories.h"
 #include "persistence/ResultsFile.h"
-#include "scanning/ScriptedInterface.h"
 #include "shell/FilterField.h"
 #include "shell/GraphTabs.h"
 #include "shell/IntervalMenu.h"
@@ -15,12 +11,12 @@
 #include "shell/MainMenu.h"
 #include "shell/NetworkDetailsForm.h"
 #include "shell/NetworkDetailsPane.h"
+#include "shell/RunningApplication.h"
 #include "shell/TSAdvancedDetailsView.h"
 #include "shell/TSNetworksView.h"
 #include "shell/TSProgressWindow.h"
 #include "shell/TSSideView.h"
 #include "shell/TestNetworks.h"
-#include "support/ManualClock.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -34,7 +30,6 @@
 #include <QMenu>
 #include <QMessageBox>
 #include <QMimeData>
-#include <QSettings>
 #include <QSignalSpy>
 #include <QStatusBar>
 #include <QTemporaryDir>
@@ -49,84 +44,12 @@ using testing::ElementsAre;
 
 namespace {
 
-class OneInterfaceService final : public WiFiService {
-public:
-    std::shared_ptr<CWInterface> interface() override { return wifi; }
-    std::shared_ptr<CWInterface> interfaceWithName(const QString&) override { return nullptr; }
-    QStringList interfaceNames() override { return {}; }
-
-    std::shared_ptr<ScriptedInterface> wifi = std::make_shared<ScriptedInterface>();
-};
-
-/// Runs what is queued, and what that queues in turn.
-void settle()
-{
-    for (int round = 0; round < 3; ++round) {
-        QCoreApplication::processEvents();
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    }
-}
-
-/// The application with its real cycle, on time that the test moves and an engine whose thread's
-/// body the test runs.
-class AppDelegateTest : public testing::Test {
+/// The application with its real cycle, driven as a user drives it.
+class AppDelegateTest : public testing::Test, protected RunningApplication {
 protected:
-    AppDelegateTest()
-    {
-        Directories::installed().annotations = &annotations;
-        pause.shutDown = true; // one round of the engine's loop at each run of its body
-        attachStore();
-    }
-    ~AppDelegateTest() override
-    {
-        delegate.reset();
-        Directories::installed() = {};
-        Defaults::standard().attach(nullptr);
-    }
-
-    /// A new run of the program, or what a new run would read.
-    void attachStore()
-    {
-        Defaults::standard().attach(std::make_unique<QSettings>(
-            directory.filePath(QStringLiteral("tessara.conf")), QSettings::IniFormat));
-    }
-
-    void launch(const QString& file = {})
-    {
-        delegate = std::make_unique<AppDelegate>(
-            service, vendors, annotations, deviceNames, voice,
-            EngineServices{clock, pause, notifications,
-                           [this](auto body) { bodies.push_back(std::move(body)); }});
-        delegate->applicationWillFinishLaunching(file);
-        settle();
-    }
-
-    void engineScans(std::vector<CWNetwork> networks)
-    {
-        service.wifi->scans = {{std::move(networks), {}}};
-        bodies.back()();
-        settle();
-    }
-
-    void tick()
-    {
-        clock.advance(ScanCycle::kMergeInterval);
-        settle();
-    }
-
-    MainWindow& window() { return delegate->window(); }
     /// The window's title, without the place of the mark of what is unsaved.
     QString title() { return window().windowTitle().remove(QStringLiteral("[*]")); }
     TSNetworksView& table() { return window().networksView(); }
-
-    QAction& action(const char* text)
-    {
-        for (QAction* each : window().findChildren<QAction*>()) {
-            if (each->text() == QString::fromUtf8(text))
-                return *each;
-        }
-        throw std::out_of_range(text);
-    }
 
     QString cell(int row, QStringView identifier)
     {
@@ -196,20 +119,6 @@ protected:
             result.push_back(network->ssid().toStdString());
         return result;
     }
-
-    QTemporaryDir directory;
-    ManualClock clock;
-    ManualPause pause{clock};
-    NotificationCenter notifications;
-    OneInterfaceService service;
-    std::vector<std::function<void()>> bodies; ///< of the engines, the newest last
-    TSVendorDatabaseHelper vendors{
-        {.database = directory.filePath(QStringLiteral("vendors.plist"))}};
-    TSAnnotationsHelper annotations{directory.filePath(QStringLiteral("annotations.plist"))};
-    FakeNetServices netServices;
-    TSNetServiceBrowser deviceNames{netServices, clock};
-    RecordingVoice voice;
-    std::unique_ptr<AppDelegate> delegate;
 };
 
 CWNetwork named(const char* bssid, const char* ssid, int channel = 1)
