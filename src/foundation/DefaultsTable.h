@@ -51,6 +51,11 @@ TESSARA_DEFAULT_KEY(SpeakOn);
 TESSARA_DEFAULT_KEY(SpeakIntervalInSeconds);
 TESSARA_DEFAULT_KEY(SpeakWhenOnBackground);
 TESSARA_DEFAULT_KEY(Annotations);
+/// Whether the program asks for newer versions of itself, how often in seconds, and when it last
+/// did.
+TESSARA_DEFAULT_KEY(CheckForUpdates);
+TESSARA_DEFAULT_KEY(UpdateCheckInterval);
+TESSARA_DEFAULT_KEY(LastUpdateCheck);
 /// The identifier of the pane of the preferences that was seen last.
 inline constexpr char16_t SelectedPreferencesPane[] = u"MASPreferences Selected Identifier View";
 /// The layout of the networks table: order, widths, hidden states and sorting of its columns.

@@ -23,6 +23,8 @@ sigset_t terminationSignals()
 
 void TerminationSignals::block()
 {
+    // A program that is started from here takes its signals as any other does.
+    [[maybe_unused]] static const int registered = ::pthread_atfork(nullptr, nullptr, unblock);
     const sigset_t set = terminationSignals();
     ::pthread_sigmask(SIG_BLOCK, &set, nullptr);
 }

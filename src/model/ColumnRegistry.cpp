@@ -110,9 +110,7 @@ QString seenText(const NetworkRow& row, const CellContext& context)
 {
     if (!context.isScanning) {
         const auto time = row.lastSeenValue();
-        return time ? QLocale().toString(QDateTime::fromMSecsSinceEpoch(std::llround(*time * 1000)),
-                                         QLocale::ShortFormat)
-                    : QString();
+        return time ? mediumTimeText(*time) : QString();
     }
     constexpr std::int64_t kMinute = 60;
     constexpr std::int64_t kHour = 3600;

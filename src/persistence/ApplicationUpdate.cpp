@@ -1,8 +1,12 @@
 #include "persistence/ApplicationUpdate.h"
 
+#include "foundation/Defaults.h"
 #include "foundation/Localized.h"
 
+#include <QDateTime>
 #include <QVersionNumber>
+
+#include <cmath>
 
 namespace tessara {
 
@@ -20,9 +24,26 @@ ApplicationUpdate::Source ApplicationUpdate::Source::standard()
 
 void ApplicationUpdate::checkForUpdates()
 {
+    check(true);
+}
+
+void ApplicationUpdate::checkForUpdatesIfDue()
+{
+    const Defaults& defaults = Defaults::standard();
+    const QDateTime last = defaults.value(DefaultKey::LastUpdateCheck).toDateTime();
+    const double age = m_clock.now() - static_cast<double>(last.toMSecsSinceEpoch()) / 1000.0;
+    const auto interval =
+        static_cast<double>(defaults.integerForKey(DefaultKey::UpdateCheckInterval));
+    if (defaults.boolForKey(DefaultKey::CheckForUpdates) && (!last.isValid() || age >= interval))
+        check(false);
+}
+
+void ApplicationUpdate::check(bool interactive)
+{
     if (m_check)
         return;
-    m_progress = m_prompt.beginProgress(localized("Checking for updates..."));
+    if (interactive)
+        m_progress = m_prompt.beginProgress(localized("Checking for updates..."));
     QNetworkRequest request(m_source.location);
     request.setSslConfiguration(m_source.tls);
     request.setAttribute(QNetworkRequest::CacheLoadControlAttribute,
@@ -32,21 +53,32 @@ void ApplicationUpdate::checkForUpdates()
     m_answer.open(QIODevice::WriteOnly);
     const HttpsGet::Limits limits{kTimeout, kTimeout, kLongestAnswer};
     m_check = std::make_unique<HttpsGet>(m_clock, request, limits, &m_answer);
-    connect(m_check.get(), &HttpsGet::finished, this, &ApplicationUpdate::didFinish);
+    connect(m_check.get(), &HttpsGet::finished, this,
+            [this, interactive] { didFinish(interactive); });
 }
 
-void ApplicationUpdate::didFinish()
+void ApplicationUpdate::didFinish(bool interactive)
 {
-    m_prompt.endProgress(*std::exchange(m_progress, std::nullopt));
+    if (const auto progress = std::exchange(m_progress, std::nullopt))
+        m_prompt.endProgress(*progress);
     const QString error = m_check->error();
     m_check.release()->deleteLater(); // this is its signal
     if (!error.isEmpty()) {
-        inform(localized("Unable to check for updates."), error);
+        if (interactive)
+            inform(localized("Unable to check for updates."), error);
         return;
     }
+    Defaults::standard().setValue(
+        DefaultKey::LastUpdateCheck,
+        QDateTime::fromMSecsSinceEpoch(std::llround(m_clock.now() * 1000)));
     const QVersionNumber own = QVersionNumber::fromString(QLatin1String(TESSARA_VERSION));
-    const auto newest = QVersionNumber::fromString(QString::fromLatin1(m_answer.data().trimmed()));
-    if (newest.isNull()) {
+    const QString answer = QString::fromLatin1(m_answer.data().trimmed());
+    qsizetype end = 0;
+    const QVersionNumber newest = QVersionNumber::fromString(answer, &end);
+    const bool isVersion = !newest.isNull() && end == answer.size();
+    if (!interactive && !(isVersion && newest > own))
+        return;
+    if (!isVersion) {
         inform(localized("Unable to check for updates."),
                localized("The server's answer is not the number of a version."));
     } else if (newest > own) {

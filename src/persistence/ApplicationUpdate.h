@@ -36,10 +36,14 @@ public:
     {
     }
 
+    /// As the user has asked for it: says whatever it finds.
     void checkForUpdates();
+    /// If the settings ask for it and it is time again: says only that there is a newer version.
+    void checkForUpdatesIfDue();
 
 private:
-    void didFinish();
+    void check(bool interactive);
+    void didFinish(bool interactive);
     void inform(const QString& messageText, const QString& informativeText);
 
     UserPrompt& m_prompt;

@@ -85,7 +85,7 @@ void AppDelegate::connectParts(NotificationCenter& notifications)
             [this] { filterAndSetNetworks(m_pipeline.networks()); });
     connect(&table, &TSNetworksView::didEndEditing, this, &AppDelegate::prepareAndReload);
     connect(&table, &TSNetworksView::columnDidChangeHiddenState, this,
-            &AppDelegate::configureSpectrumLabels);
+            &AppDelegate::userDidToggleColumnState);
     connect(&m_window.graphTabs().networkDetails().chart(),
             &TSNetworkDetailsView::userDidPickNetwork, this,
             &AppDelegate::handleUserDidPickNetwork);
@@ -205,7 +205,8 @@ void AppDelegate::applicationWillFinishLaunching(const QString& file)
     m_window.restoreTabsSplitter(
         Defaults::standard().value(DefaultKey::VerticalSplitView).toByteArray());
     m_window.graphTabs().loadDefaults();
-    configureSpectrumLabels();
+    for (const Column& column : columnRegistry())
+        userDidToggleColumnState(column);
     m_window.sideView().setExpandedItems(
         Defaults::standard().value(DefaultKey::SideViewExpandedItems).toStringList());
     prepareAndReload();
@@ -276,6 +277,7 @@ void AppDelegate::checkVendorsDatabaseLater()
     m_vendorsCheck = m_clock.repeat(kDelay, [this] {
         const auto once = std::move(m_vendorsCheck);
         m_vendorsUpdate.checkForDatabaseUpdates(false);
+        m_applicationUpdate.checkForUpdatesIfDue();
     });
 }
 
@@ -438,8 +440,9 @@ void AppDelegate::sideViewSelectionDidChange(const std::optional<TSSideViewItem>
 void AppDelegate::userDidClickSourceList()
 {
     TSSideView& sideView = m_window.sideView();
-    if (sideView.selectionModel()->hasSelection()) {
-        sideView.clearSelection(); // takes the facet away
+    if (sideView.selectionModel()->hasSelection() || !m_sideViewSelection.identifier.isEmpty()) {
+        sideView.clearSelection();
+        m_sideViewSelection = {}; // also that of a value that has vanished
         filterAndSetNetworks(m_pipeline.networks());
     }
     m_window.networksView().clearSelection();
@@ -556,15 +559,15 @@ void AppDelegate::clearSideViewSelection()
 }
 
 /// The spectrum tells of a network what the list has columns for.
-void AppDelegate::configureSpectrumLabels()
+void AppDelegate::userDidToggleColumnState(const Column& column)
 {
     const auto columns = m_window.networksView().visibleColumns();
-    const auto isShown = [&](QStringView identifier) {
-        return std::ranges::count(columns, columnWithIdentifier(identifier)) > 0;
-    };
+    const bool isShown = std::ranges::count(columns, &column) > 0;
     TSSpectrumView& spectrum = m_window.graphTabs().spectrumView();
-    spectrum.setDisplayAnnotations(isShown(u"ANNOTATIONS"));
-    spectrum.setDisplayDeviceName(isShown(u"DEVICE_NAME"));
+    if (column.identifier == QLatin1String("ANNOTATIONS"))
+        spectrum.setDisplayAnnotations(isShown);
+    else if (column.identifier == QLatin1String("DEVICE_NAME"))
+        spectrum.setDisplayDeviceName(isShown);
 }
 
 void AppDelegate::setReferenceTime(double time)
@@ -583,11 +586,8 @@ void AppDelegate::handleUserDidPickNetwork(const QString& bssid)
         [&](const TSNetwork& network) { return network.bssid() == bssid; });
 }
 
-void AppDelegate::userDidSelectColor(const QColor& color)
+void AppDelegate::userDidSelectColor(const NetworkPtr& network, const QColor& color)
 {
-    const NetworkPtr network = selectedNetwork(m_pipeline.filteredNetworks());
-    if (!network)
-        return;
     network->setColor(color);
     Defaults& defaults = Defaults::standard();
     QVariantMap chosen = defaults.value(DefaultKey::UserDefinedColors).toMap();

@@ -87,7 +87,7 @@ private:
     void onFilter(const QString& line);
     void handleFilterUsingKeys(std::int64_t threshold);
     void handleUserDidPickNetwork(const QString& bssid);
-    void userDidSelectColor(const QColor& color);
+    void userDidSelectColor(const NetworkPtr& network, const QColor& color);
     void showPreferencesWithIdentifier(const QString& identifier);
     void makePreferences();
     void valuesDidChange();
@@ -102,7 +102,7 @@ private:
     void configureNetworksView();
     void configureSelectedTabView();
     void onSpeak();
-    void configureSpectrumLabels();
+    void userDidToggleColumnState(const Column& column);
     void configureSideView();
     void sideViewSelectionDidChange(const std::optional<TSSideViewItem>& item);
     void userDidClickSourceList();

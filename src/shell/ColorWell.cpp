@@ -2,7 +2,6 @@
 
 #include "foundation/Localized.h"
 
-#include <QColorDialog>
 #include <QPainter>
 #include <QStyleOptionFocusRect>
 
@@ -23,21 +22,12 @@ ColorWell::ColorWell(QWidget* parent)
     setFocusPolicy(Qt::TabFocus);
     const int side = fontMetrics().height();
     setFixedSize(2 * side, side);
-    connect(this, &QToolButton::clicked, this, &ColorWell::askForColor);
 }
 
 void ColorWell::setColor(const QColor& color)
 {
     m_color = color;
     update();
-}
-
-void ColorWell::askForColor()
-{
-    auto* panel = new QColorDialog(m_color, window());
-    panel->setAttribute(Qt::WA_DeleteOnClose);
-    connect(panel, &QColorDialog::colorSelected, this, &ColorWell::didSelectColor);
-    panel->open();
 }
 
 void ColorWell::paintEvent(QPaintEvent*)

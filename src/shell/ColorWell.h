@@ -5,7 +5,7 @@
 
 namespace tessara {
 
-/// A button that shows a colour, and asks for another one when it is pressed.
+/// A button that shows a colour.
 class ColorWell final : public QToolButton {
     Q_OBJECT
 
@@ -15,16 +15,10 @@ public:
     const QColor& color() const { return m_color; }
     void setColor(const QColor& color);
 
-Q_SIGNALS:
-    /// The user has chosen a colour.
-    void didSelectColor(const QColor& color);
-
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    void askForColor();
-
     QColor m_color;
 };
 

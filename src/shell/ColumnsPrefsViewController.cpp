@@ -35,7 +35,6 @@ ColumnsPrefsViewController::ColumnsPrefsViewController(TSNetworksView& networksV
     table.setModel(m_tableColumns);
     table.setRootIsDecorated(false);
     table.setUniformRowHeights(true);
-    table.setAlternatingRowColors(true);
     table.setMinimumSize(kTableSize);
     table.header()->setSectionResizeMode(ColumnVisibilityModel::kShowColumn,
                                          QHeaderView::ResizeToContents);

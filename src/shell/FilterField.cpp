@@ -3,6 +3,7 @@
 #include "foundation/Defaults.h"
 #include "foundation/Localized.h"
 #include "shell/GlyphIcon.h"
+#include "shell/LegibleColor.h"
 
 #include <QAction>
 #include <QKeyEvent>
@@ -28,6 +29,9 @@ FilterField::FilterField(QWidget* parent)
     , m_recentFilters(new QMenu(this))
 {
     setPlaceholderText(localized("Filter"));
+    QPalette legiblePalette = palette();
+    legiblePalette.setColor(QPalette::PlaceholderText, dimmed(legiblePalette));
+    setPalette(legiblePalette);
     setAccessibleName(localized("Filter"));
     setClearButtonEnabled(true);
     setToolTip(

@@ -30,6 +30,8 @@ constexpr Choice kUnits[] = {{0, "Percent"}, {1, "dBm"}};
 constexpr Choice kTimes[] = {{1, "1 minute"},   {2, "2 minutes"}, {3, "5 minutes"},
                              {4, "30 minutes"}, {5, "1 hour"},    {6, "2 hours"}};
 
+constexpr Choice kUpdateIntervals[] = {{86400, "Daily"}, {604800, "Weekly"}, {2592000, "Monthly"}};
+
 QComboBox* makePopUp(std::span<const Choice> choices)
 {
     auto* popUp = new QComboBox;
@@ -52,6 +54,8 @@ GeneralPrefsViewController::GeneralPrefsViewController(QWidget* parent)
     , m_units(makePopUp(kUnits))
     , m_deleteIfNotSeen(new QCheckBox(localized("&Remove networks not seen for")))
     , m_maxElapsedTimeNotSeen(makePopUp(kTimes))
+    , m_checkForUpdates(new QCheckBox(localized("Check for &updates of Tessara")))
+    , m_updateCheckInterval(makePopUp(kUpdateIntervals))
 {
     m_sensitivity->setRange(kLowestSensitivity, kHighestSensitivity);
     m_sensitivity->setPageStep(kSensitivityStep);
@@ -60,21 +64,8 @@ GeneralPrefsViewController::GeneralPrefsViewController(QWidget* parent)
                                       kMargin);
     m_maxElapsedTimeNotSeen->setAccessibleName(localized("Time until a network is removed"));
 
-    auto* sensitivity = new QHBoxLayout;
-    sensitivity->addWidget(m_sensitivity, 1);
-    sensitivity->addWidget(m_sensitivityLbl);
-    auto* removal = new QHBoxLayout;
-    removal->addWidget(m_deleteIfNotSeen);
-    removal->addWidget(m_maxElapsedTimeNotSeen);
-    removal->addStretch();
-    auto* form = new QFormLayout(this);
-    form->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
-    form->setLabelAlignment(Qt::AlignRight);
-    form->addRow(localized("&Sensitivity:"), sensitivity);
-    qobject_cast<QLabel*>(form->labelForField(sensitivity))->setBuddy(m_sensitivity);
-    form->addRow(localized("Show s&ignals in:"), m_units);
-    form->addRow(QString(), removal);
-    m_units->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
+    m_updateCheckInterval->setAccessibleName(localized("Time between checks for updates"));
+    makeForm();
 
     connect(m_sensitivity, &QSlider::valueChanged, this,
             &GeneralPrefsViewController::sensitivityDidChange);
@@ -85,6 +76,39 @@ GeneralPrefsViewController::GeneralPrefsViewController(QWidget* parent)
     });
     connect(m_deleteIfNotSeen, &QCheckBox::clicked, this,
             &GeneralPrefsViewController::deleteIfNotSeenDidChange);
+    // Of these the list of networks knows nothing.
+    connect(m_checkForUpdates, &QCheckBox::clicked, this, [this](bool on) {
+        m_updateCheckInterval->setEnabled(on);
+        Defaults::standard().setValue(DefaultKey::CheckForUpdates, on);
+    });
+    connect(m_updateCheckInterval, &QComboBox::activated, this, [this] {
+        Defaults::standard().setValue(DefaultKey::UpdateCheckInterval,
+                                      m_updateCheckInterval->currentData());
+    });
+}
+
+void GeneralPrefsViewController::makeForm()
+{
+    auto* sensitivity = new QHBoxLayout;
+    sensitivity->addWidget(m_sensitivity, 1);
+    sensitivity->addWidget(m_sensitivityLbl);
+    auto* removal = new QHBoxLayout;
+    removal->addWidget(m_deleteIfNotSeen);
+    removal->addWidget(m_maxElapsedTimeNotSeen);
+    removal->addStretch();
+    auto* updates = new QHBoxLayout;
+    updates->addWidget(m_checkForUpdates);
+    updates->addWidget(m_updateCheckInterval);
+    updates->addStretch();
+    auto* form = new QFormLayout(this);
+    form->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    form->setLabelAlignment(Qt::AlignRight);
+    form->addRow(localized("&Sensitivity:"), sensitivity);
+    qobject_cast<QLabel*>(form->labelForField(sensitivity))->setBuddy(m_sensitivity);
+    form->addRow(localized("Show s&ignals in:"), m_units);
+    form->addRow(QString(), removal);
+    form->addRow(QString(), updates);
+    m_units->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
 }
 
 QString GeneralPrefsViewController::toolbarItemLabel() const
@@ -107,6 +131,9 @@ void GeneralPrefsViewController::viewWillAppear()
     selectTag(*m_maxElapsedTimeNotSeen, defaults.integerForKey(DefaultKey::MaxElapsedTimeNotSeen));
     m_deleteIfNotSeen->setChecked(defaults.boolForKey(DefaultKey::DeleteIfNotSeen));
     m_maxElapsedTimeNotSeen->setEnabled(m_deleteIfNotSeen->isChecked());
+    m_checkForUpdates->setChecked(defaults.boolForKey(DefaultKey::CheckForUpdates));
+    m_updateCheckInterval->setEnabled(m_checkForUpdates->isChecked());
+    selectTag(*m_updateCheckInterval, defaults.integerForKey(DefaultKey::UpdateCheckInterval));
 }
 
 void GeneralPrefsViewController::showSensitivity(int sensitivity)

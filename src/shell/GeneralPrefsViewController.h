@@ -28,6 +28,7 @@ Q_SIGNALS:
 
 private:
     void sensitivityDidChange(int sensitivity);
+    void makeForm();
     void showSensitivity(int sensitivity);
     void deleteIfNotSeenDidChange(bool on);
     void write(QStringView key, const QVariant& value);
@@ -37,6 +38,8 @@ private:
     QComboBox* m_units;
     QCheckBox* m_deleteIfNotSeen;
     QComboBox* m_maxElapsedTimeNotSeen;
+    QCheckBox* m_checkForUpdates;
+    QComboBox* m_updateCheckInterval;
 };
 
 } // namespace tessara

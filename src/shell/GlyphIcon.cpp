@@ -19,12 +19,16 @@ QString nameOf(Glyph glyph)
     switch (glyph) {
     case Glyph::kAdvanced:
         return QStringLiteral("advanced");
+    case Glyph::kBottomArea:
+        return QStringLiteral("bottom-area");
     case Glyph::kCategory:
         return QStringLiteral("category");
     case Glyph::kDot:
         return QStringLiteral("dot");
     case Glyph::kGeneral:
         return QStringLiteral("general");
+    case Glyph::kLeftArea:
+        return QStringLiteral("left-area");
     case Glyph::kLock:
         return QStringLiteral("lock");
     case Glyph::kLowSignal:

@@ -12,9 +12,11 @@ namespace tessara {
 /// on light and dark desktops and at every scale.
 enum class Glyph {
     kAdvanced,
+    kBottomArea,
     kCategory,
     kDot,
     kGeneral,
+    kLeftArea,
     kLock,
     kLowSignal,
     kPadlock,

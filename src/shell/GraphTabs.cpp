@@ -127,7 +127,7 @@ void GraphTabs::configure()
         return;
     const NetworkPtr network = selectedNetwork(m_filteredNetworks);
     m_networkDetails->chart().setNetwork(network);
-    m_networkDetails->form().setNetwork(network.get(), m_context);
+    m_networkDetails->form().setNetwork(network, m_context);
 }
 
 void GraphTabs::configureAdvancedDetailsTabView()

@@ -1,6 +1,7 @@
 #include "shell/InfoElementsModel.h"
 
 #include "elements/FieldVisit.h"
+#include "foundation/HarmlessText.h"
 #include "foundation/Localized.h"
 #include "foundation/TextOrder.h"
 #include "shell/GlyphIcon.h"
@@ -29,7 +30,7 @@ constexpr ElementColumn kColumns[InfoElementsModel::kColumnCount] = {
 
 QString textOf(std::string_view utf8)
 {
-    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+    return harmless(QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size())));
 }
 
 std::optional<QString> textOf(const FieldText& text)

@@ -14,7 +14,7 @@ inline QColor legible(const QColor& color, const QPalette& palette)
     if (palette.color(QPalette::Base).lightnessF() >= kDark)
         return color;
     // What was so much darker than the ground is now so much lighter; hue and opacity stay.
-    const float lightness = std::clamp(1 - color.lightnessF() * 0.8F, 0.6F, 0.9F);
+    const float lightness = std::clamp(1 - color.lightnessF() * 0.8F, 0.72F, 0.9F);
     return QColor::fromHslF(std::max(color.hslHueF(), 0.0F), color.hslSaturationF() * 0.6F,
                             lightness, color.alphaF());
 }

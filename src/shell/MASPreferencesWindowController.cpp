@@ -45,6 +45,7 @@ void MASPreferencesWindowController::addPane(PreferencesPane& pane)
     QAction* item = m_toolBar->addAction(pane.toolbarItemImage(), pane.toolbarItemLabel());
     item->setCheckable(true);
     item->setData(pane.identifier());
+    m_toolBar->widgetForAction(item)->setFocusPolicy(Qt::TabFocus);
     m_items->addAction(item);
     connect(item, &QAction::triggered, this, [this, &pane] { selectPane(pane.identifier()); });
 }

@@ -12,7 +12,9 @@
 
 #include <QActionGroup>
 #include <QApplication>
+#include <QClipboard>
 #include <QDesktopServices>
+#include <QLabel>
 #include <QLineEdit>
 #include <QUrl>
 
@@ -120,7 +122,7 @@ void MainMenu::setExportEnabled(bool all, bool displayed, bool selected)
 
 void MainMenu::makeEditMenu()
 {
-    QMenu& edit = *addMenu(localized("&Edit"));
+    QMenu& edit = *addMenu(localized("E&dit"));
     makeFieldItems(edit);
     edit.addSeparator();
     QAction* editNote = edit.addAction(localized("Edit &Annotation"), &m_networksView,
@@ -142,8 +144,11 @@ void MainMenu::makeFieldItems(QMenu& edit)
     m_copy = new QAction(localized("&Copy"), this);
     m_copy->setShortcut(QKeySequence::Copy);
     connect(m_copy, &QAction::triggered, this, [this] {
+        const auto* label = qobject_cast<QLabel*>(QApplication::focusWidget());
         if (QLineEdit* field = fieldWithKeyboard())
             field->copy();
+        else if (label && label->hasSelectedText())
+            QApplication::clipboard()->setText(label->selectedText());
         else
             Q_EMIT copyRequested();
     });
@@ -212,10 +217,12 @@ void MainMenu::makeViewMenu()
     QMenu& view = *addMenu(localized("&View"));
     view.addAction(localized("&Filter"), this, &MainMenu::filterFieldRequested)
         ->setShortcut(QKeySequence::Find);
-    m_sideView = view.addAction(localized("&Side View"));
+    m_sideView = view.addAction(glyphIcon(Glyph::kLeftArea), localized("&Side View"));
+    m_sideView->setToolTip(localized("Show or hide the side view"));
     m_sideView->setCheckable(true);
     m_sideView->setShortcut(QKeySequence(Qt::Key_F9));
-    m_lowerHalf = view.addAction(localized("&Lower Half"));
+    m_lowerHalf = view.addAction(glyphIcon(Glyph::kBottomArea), localized("&Lower Half"));
+    m_lowerHalf->setToolTip(localized("Show or hide details and charts"));
     m_lowerHalf->setCheckable(true);
     m_lowerHalf->setShortcut(QKeySequence(Qt::Key_F8));
     view.addSeparator();

@@ -8,6 +8,7 @@
 #include "shell/ElidedLabel.h"
 #include "shell/FilterField.h"
 #include "shell/GraphTabs.h"
+#include "shell/LegibleColor.h"
 #include "shell/MainMenu.h"
 #include "shell/TSAdvancedDetailsView.h"
 #include "shell/TSNetworksView.h"
@@ -25,6 +26,7 @@
 #include <QSplitter>
 #include <QStatusBar>
 #include <QToolBar>
+#include <QToolButton>
 #include <QUrl>
 
 #include <algorithm>
@@ -36,7 +38,7 @@ namespace {
 constexpr QSize kFreshSize(1100, 735);
 constexpr QSize kSmallestSize(760, 460); // the toolbar fits, and the tabs below a few rows
 constexpr int kSmallestTable = 100;      // height
-constexpr int kFreshTabs = 400;          // height
+constexpr int kNarrowestSideView = 125;  // and at most a quarter of the window
 constexpr int kFooterMargin = 6;
 constexpr double kFirstRunWidth = 0.9;
 constexpr double kFirstRunHeight = 0.85;
@@ -93,6 +95,7 @@ MainWindow::MainWindow(const Clock& clock)
     , m_menu(new MainMenu(*m_networksView, *m_graphTabs, this))
 {
     m_networksView->setMinimumHeight(kSmallestTable);
+    m_sideView->setMinimumWidth(kNarrowestSideView);
     m_tabsSplitter->addWidget(m_networksView);
     m_tabsSplitter->addWidget(m_graphTabs);
     m_tabsSplitter->setStretchFactor(0, 1); // a larger window is for the table
@@ -130,7 +133,7 @@ void MainWindow::connectMenu()
     });
     connect(&m_menu->sideViewItem(), &QAction::triggered, this, &MainWindow::setSideViewShown);
     connect(&m_menu->lowerHalfItem(), &QAction::triggered, this, &MainWindow::setTabsShown);
-    connect(m_splitter, &QSplitter::splitterMoved, this, &MainWindow::validateAreaItems);
+    connect(m_splitter, &QSplitter::splitterMoved, this, &MainWindow::limitSideView);
     connect(m_tabsSplitter, &QSplitter::splitterMoved, this, &MainWindow::validateAreaItems);
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
         if (now) // two views copy nothing at this command
@@ -196,6 +199,13 @@ void MainWindow::makeFooter()
     m_leftFooter->setObjectName(QStringLiteral("LeftFooter"));
     m_leftFooter->hide();
     statusBar()->setContentsMargins(kFooterMargin, 0, 0, 0);
+    for (QAction* item : {&m_menu->sideViewItem(), &m_menu->lowerHalfItem()}) {
+        auto* button = new QToolButton;
+        button->setDefaultAction(item);
+        button->setAutoRaise(true);
+        button->setFocusPolicy(Qt::TabFocus);
+        statusBar()->addWidget(button);
+    }
     statusBar()->addWidget(m_leftFooter, 1);
     statusBar()->addPermanentWidget(m_rightFooter);
 }
@@ -241,7 +251,8 @@ void MainWindow::setThresholdFooter(const std::optional<QString>& text)
         return;
     m_rightFooterShowsThreshold = true;
     QPalette palette = m_rightFooter->palette();
-    palette.setColor(QPalette::WindowText, QColor::fromRgbF(0.728F, 0.078F, 0.12F));
+    palette.setColor(QPalette::WindowText,
+                     legible(QColor::fromRgbF(0.728F, 0.078F, 0.12F), palette));
     m_rightFooter->setPalette(palette);
 }
 
@@ -293,7 +304,11 @@ void MainWindow::restoreSplitter(const QByteArray& state)
 
 void MainWindow::setSideViewShown(bool shown)
 {
-    const int side = shown ? m_sideView->sizeHint().width() : 0;
+    if (!shown)
+        leaveArea(*m_sideView);
+    if (const int width = m_splitter->sizes().front(); width > 0)
+        m_sideViewWidth = width;
+    const int side = shown ? std::min(m_sideViewWidth, widestSideView()) : 0;
     m_splitter->setSizes({side, std::max(m_splitter->width() - side, 1)});
     validateAreaItems();
 }
@@ -312,8 +327,32 @@ void MainWindow::restoreTabsSplitter(const QByteArray& state)
 
 void MainWindow::setTabsShown(bool shown)
 {
-    const int tabs = shown ? kFreshTabs : 0;
+    if (!shown)
+        leaveArea(*m_graphTabs);
+    if (const int height = m_tabsSplitter->sizes().back(); height > 0)
+        m_tabsHeight = height;
+    const int tabs = shown ? m_tabsHeight : 0;
     m_tabsSplitter->setSizes({std::max(m_tabsSplitter->height() - tabs, kSmallestTable), tabs});
+    validateAreaItems();
+}
+
+/// An area that goes does not keep the keyboard.
+void MainWindow::leaveArea(const QWidget& area)
+{
+    if (focusWidget() == &area || area.isAncestorOf(focusWidget()))
+        m_networksView->setFocus();
+}
+
+int MainWindow::widestSideView() const
+{
+    return std::max(m_splitter->width() / 4, kNarrowestSideView);
+}
+
+void MainWindow::limitSideView()
+{
+    const int side = m_splitter->sizes().front();
+    if (side > widestSideView())
+        m_splitter->setSizes({widestSideView(), m_splitter->width() - widestSideView()});
     validateAreaItems();
 }
 

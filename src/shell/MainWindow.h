@@ -82,6 +82,9 @@ private:
     void makeFooter();
     void setSideViewShown(bool shown);
     void setTabsShown(bool shown);
+    void leaveArea(const QWidget& area);
+    int widestSideView() const;
+    void limitSideView();
     void validateAreaItems();
 
     QSplitter* m_splitter;
@@ -90,6 +93,8 @@ private:
     TSNetworksView* m_networksView;
     GraphTabs* m_graphTabs;
     MainMenu* m_menu;
+    int m_sideViewWidth = 220; ///< of each area when it shows again
+    int m_tabsHeight = 400;
     ActivityIndicator* m_activityIndicator = nullptr;
     ElidedLabel* m_info = nullptr;
     ElidedLabel* m_leftFooter = nullptr;

@@ -8,6 +8,7 @@
 #include "shell/NetworkDetailsText.h"
 #include "shell/ToolTipText.h"
 
+#include <QColorDialog>
 #include <QGridLayout>
 #include <QLabel>
 #include <QScrollBar>
@@ -96,8 +97,7 @@ void NetworkDetailsForm::makeForm()
     m_grid->setColumnMinimumWidth(kValue, kReadingWidth * fontMetrics().averageCharWidth());
 
     m_networkColorWell = new ColorWell;
-    connect(m_networkColorWell, &ColorWell::didSelectColor, this,
-            &NetworkDetailsForm::didSelectColor);
+    connect(m_networkColorWell, &QToolButton::clicked, this, &NetworkDetailsForm::askForColor);
     m_ssidLbl = makeValue();
     QFont bold = m_ssidLbl->font();
     bold.setBold(true);
@@ -109,6 +109,9 @@ void NetworkDetailsForm::makeForm()
     m_vendor = addRow("Vendor");
     m_vendor.value->setTextFormat(Qt::RichText);
     m_vendor.value->setOpenExternalLinks(true);
+    m_vendor.value->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::LinksAccessibleByMouse |
+                                            Qt::LinksAccessibleByKeyboard);
+    m_vendor.value->unsetCursor(); // a link has its own
     addSpace();
     makeSignalRows();
     addSpace();
@@ -195,8 +198,21 @@ void NetworkDetailsForm::Row::setText(const QString& text) const
     value->setVisible(!text.isEmpty());
 }
 
-void NetworkDetailsForm::setNetwork(const TSNetwork* network, const CellContext& context)
+/// For the network that is shown now, whatever is when the answer comes.
+void NetworkDetailsForm::askForColor()
 {
+    auto* panel = new QColorDialog(m_network->color(), window());
+    panel->setAttribute(Qt::WA_DeleteOnClose);
+    connect(panel, &QColorDialog::colorSelected, this,
+            [this, network = m_network](const QColor& color) {
+                Q_EMIT didSelectColor(network, color);
+            });
+    panel->open();
+}
+
+void NetworkDetailsForm::setNetwork(const NetworkPtr& network, const CellContext& context)
+{
+    m_network = network;
     if (network)
         fill(*network, context);
     m_pages->setCurrentIndex(network ? 1 : 0);

@@ -28,11 +28,11 @@ public:
 
     void setVendorURL(VendorURL urlForVendor) { m_urlForVendor = std::move(urlForVendor); }
     /// Shows a network; for none, what to do to see one.
-    void setNetwork(const TSNetwork* network, const CellContext& context);
+    void setNetwork(const NetworkPtr& network, const CellContext& context);
 
 Q_SIGNALS:
-    /// The user has chosen a colour for the network.
-    void didSelectColor(const QColor& color);
+    /// The user has chosen a colour for a network.
+    void didSelectColor(const NetworkPtr& network, const QColor& color);
 
 private:
     /// A caption and its value, hidden together where there is no value.
@@ -45,6 +45,7 @@ private:
     Row addRow(const char* caption);
     QLabel* addIcon(const Row& row, const QIcon& icon);
     void addSpace();
+    void askForColor();
     void makeForm();
     void makeSignalRows();
     void fill(const TSNetwork& network, const CellContext& context);
@@ -52,6 +53,7 @@ private:
     QString vendorText(const QString& vendor) const;
 
     VendorURL m_urlForVendor;
+    NetworkPtr m_network; ///< that is shown
     QStackedWidget* m_pages;
     QGridLayout* m_grid = nullptr;
     ColorWell* m_networkColorWell = nullptr;

@@ -26,7 +26,7 @@ NetworkDetailsPane::NetworkDetailsPane(const Clock& clock, QWidget* parent)
     , m_chart(new TSNetworkDetailsView(clock))
     , m_form(new NetworkDetailsForm)
 {
-    auto* caption = new QLabel(localized("&Show:"));
+    auto* caption = new QLabel(localized("Show:"));
     caption->setBuddy(m_metricPopUp);
     m_metricPopUp->setObjectName(QStringLiteral("Metric"));
     m_metricPopUp->setToolTip(localized("What the chart shows of the selected network"));

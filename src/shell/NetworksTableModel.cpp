@@ -1,7 +1,11 @@
 #include "shell/NetworksTableModel.h"
 
+#include "charts/TSThemeHelper.h"
 #include "foundation/Localized.h"
+#include "shell/LegibleColor.h"
 #include "shell/RowChanges.h"
+
+#include <QGuiApplication>
 
 #include <algorithm>
 #include <unordered_map>
@@ -197,6 +201,8 @@ QVariant NetworksTableModel::headerData(int section, Qt::Orientation orientation
         return localized(column.title);
     case Qt::ToolTipRole:
         return localized(column.description);
+    case Qt::ForegroundRole:
+        return legible(TSThemeHelper::textColorForTableHeader(), QGuiApplication::palette());
     default:
         return {};
     }

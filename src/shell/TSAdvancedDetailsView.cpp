@@ -44,7 +44,6 @@ TSAdvancedDetailsView::TSAdvancedDetailsView(QWidget* parent)
     setTreePosition(InfoElementsModel::kElementColumn);
     setUniformRowHeights(true);
     setAllColumnsShowFocus(true);
-    setAlternatingRowColors(true);
     setEditTriggers(NoEditTriggers);
     setVerticalScrollMode(ScrollPerPixel);
     setFrameShape(QFrame::NoFrame);
@@ -73,6 +72,10 @@ void TSAdvancedDetailsView::setUpHeader()
     header.setHighlightSections(false);
     header.setStretchLastSection(true);
     header.setSortIndicatorClearable(true); // back to the order of the beacon
+    connect(&header, &QHeaderView::sortIndicatorChanged, this, [&header](int column) {
+        if (column == InfoElementsModel::kFieldsColumn) // says nothing to sort by
+            header.setSortIndicator(-1, Qt::AscendingOrder);
+    });
     header.setSortIndicator(-1, Qt::AscendingOrder);
     setSortingEnabled(true);
     QFont font = this->font();
@@ -157,7 +160,8 @@ void TSAdvancedDetailsView::setAllExpanded(bool expanded)
 
 void TSAdvancedDetailsView::contextMenuEvent(QContextMenuEvent* event)
 {
-    const QModelIndex clicked = indexAt(event->pos()).siblingAtColumn(0);
+    // While the menu is open, a new beacon may take the row away.
+    const QPersistentModelIndex clicked = indexAt(event->pos()).siblingAtColumn(0);
     if (!clicked.isValid())
         return;
     const bool expandable = isExpandable(clicked);
@@ -165,7 +169,7 @@ void TSAdvancedDetailsView::contextMenuEvent(QContextMenuEvent* event)
         setCurrentIndex(clicked);
     const bool expanded = isExpanded(clicked);
     const bool isElement = !clicked.parent().isValid();
-    QModelIndex element = clicked;
+    QPersistentModelIndex element = clicked;
     while (element.parent().isValid())
         element = element.parent();
 
@@ -180,7 +184,10 @@ void TSAdvancedDetailsView::contextMenuEvent(QContextMenuEvent* event)
     menu.addAction(localized("Collapse All Items"), this, [this] { setAllExpanded(false); });
     menu.addSeparator();
     menu.addAction(localized("Copy Element"), this,
-                   [element] { copyText(InfoElementsModel::rowAt(element).dump); })
+                   [element] {
+                       if (element.isValid())
+                           copyText(InfoElementsModel::rowAt(element).dump);
+                   })
         ->setEnabled(isElement);
     menu.addAction(localized("Copy All Elements"), this, [this] { copyText(m_model.dump()); });
     menu.exec(event->globalPos());

@@ -334,7 +334,7 @@ bool TSNetworksView::canBeHidden(const Column& column)
 void TSNetworksView::setColumnShown(const Column& column, bool shown)
 {
     setColumnHidden(indexOf(column), !shown);
-    Q_EMIT columnDidChangeHiddenState();
+    Q_EMIT columnDidChangeHiddenState(column);
 }
 
 QByteArray TSNetworksView::layoutState() const
@@ -416,8 +416,11 @@ void TSNetworksView::keyPressEvent(QKeyEvent* event)
     const QString text = event->text();
     const bool isTyping = !text.isEmpty() && text.front().isPrint() &&
                           !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier));
+    const bool isArrow = event->key() == Qt::Key_Up || event->key() == Qt::Key_Down;
     if (isTyping)
         event->ignore(); // it never selects, not even by the space bar
+    else if (isArrow && currentIndex().isValid() && !selectionModel()->hasSelection())
+        setCurrentIndex(currentIndex()); // the row that the keyboard begins at
     else if (event->key() == Qt::Key_Escape && selectionModel()->hasSelection())
         clearSelection();
     else if ((event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) &&

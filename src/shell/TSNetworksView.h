@@ -71,7 +71,7 @@ Q_SIGNALS:
     /// The user has selected other networks.
     void selectionDidChange();
     void sortDescriptorsDidChange();
-    void columnDidChangeHiddenState();
+    void columnDidChangeHiddenState(const Column& column);
     void didEndEditing();
 
 protected:

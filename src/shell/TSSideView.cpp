@@ -136,15 +136,21 @@ void TSSideView::mousePressEvent(QMouseEvent* event)
 
 void TSSideView::keyPressEvent(QKeyEvent* event)
 {
+    const QString text = event->text();
+    const bool isTyping = !text.isEmpty() && text.front().isPrint() &&
+                          !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier));
     if (event->key() == Qt::Key_Space && currentIndex().isValid())
         setExpanded(currentIndex(), !isExpanded(currentIndex()));
+    else if (isTyping)
+        event->ignore(); // it never selects
     else
         QTreeView::keyPressEvent(event);
 }
 
 void TSSideView::contextMenuEvent(QContextMenuEvent* event)
 {
-    const QModelIndex clicked = indexAt(event->pos()).siblingAtColumn(SideViewModel::kItemColumn);
+    const QPersistentModelIndex clicked =
+        indexAt(event->pos()).siblingAtColumn(SideViewModel::kItemColumn);
     if (!clicked.isValid())
         return;
     const bool isExpandable = m_model.hasChildren(clicked);

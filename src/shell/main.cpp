@@ -14,19 +14,36 @@
 #include <QIcon>
 #include <QTextStream>
 
+#include <algorithm>
+#include <memory>
+#include <set>
+#include <string_view>
+
 using namespace tessara;
+
+namespace {
+
+/// One without a window where only a text is asked for: there may be no display.
+std::unique_ptr<QCoreApplication> makeApplication(int& argc, char** argv)
+{
+    const std::set<std::string_view> questions{"-h", "--help", "--help-all", "-v", "--version"};
+    const bool asks =
+        std::any_of(argv, argv + argc, [&](const char* word) { return questions.contains(word); });
+    if (asks)
+        return std::make_unique<QCoreApplication>(argc, argv);
+    return std::make_unique<QApplication>(argc, argv);
+}
+
+} // namespace
 
 int main(int argc, char** argv)
 {
     TerminationSignals::block(); // the application object starts threads
-    QApplication application(argc, argv);
+    const auto application = makeApplication(argc, argv);
     QApplication::setOrganizationName(QStringLiteral("Tessara"));
     QApplication::setApplicationName(QStringLiteral("tessara"));
     QApplication::setApplicationVersion(QStringLiteral(TESSARA_VERSION));
     QApplication::setDesktopFileName(QStringLiteral("tessara"));
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/tessara.svg")));
-    // The main window alone decides when the process ends.
-    QApplication::setQuitOnLastWindowClosed(false);
 
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral("A Wi-Fi network analyser."));
@@ -36,7 +53,10 @@ int main(int argc, char** argv)
                                  QStringLiteral("Show the results of this file (.tessara)."),
                                  QStringLiteral("[FILE]"));
     addSettingsOptions(parser);
-    parser.process(application);
+    parser.process(*application);
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/tessara.svg")));
+    // The main window alone decides when the process ends.
+    QApplication::setQuitOnLastWindowClosed(false);
     if (const QString error = applySettingsOptions(parser); !error.isEmpty()) {
         QTextStream(stderr) << "tessara: " << error << Qt::endl;
         return 2;
@@ -54,7 +74,7 @@ int main(int argc, char** argv)
     AppDelegate delegate(wifi, vendors, annotations, deviceNames, voice, runtime.engineServices());
     const TerminationSignals signalsOfTheUser([&delegate] { delegate.terminate(); });
     QObject::connect(
-        &delegate, &AppDelegate::didTerminate, &application, [] { QApplication::exit(0); },
+        &delegate, &AppDelegate::didTerminate, application.get(), [] { QApplication::exit(0); },
         Qt::QueuedConnection);
     delegate.applicationWillFinishLaunching(parser.positionalArguments().value(0));
     return QApplication::exec();

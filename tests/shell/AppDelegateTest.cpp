@@ -661,12 +661,9 @@ TEST_F(AppDelegateTest, AColourThatTheUserGivesLasts)
     tick();
     const QColor before = delegate->scanCycle().networks().front()->color();
     auto& form = window().graphTabs().networkDetails().form();
-    Q_EMIT form.didSelectColor(Qt::red); // of which network?
-    EXPECT_EQ(delegate->scanCycle().networks().front()->color(), before);
-
     const QColor chosen(12, 34, 56);
-    table().selectNetworks([](const TSNetwork&) { return true; });
-    Q_EMIT form.didSelectColor(chosen);
+    ASSERT_NE(before, chosen);
+    Q_EMIT form.didSelectColor(delegate->scanCycle().networks().front(), chosen);
     EXPECT_EQ(delegate->scanCycle().networks().front()->color(), chosen);
     ScanDictionary dictionary;
     dictionary.bssid = QStringLiteral("0:0:0:0:0:1");

@@ -67,7 +67,7 @@ TEST(NetworkDetailsForm, ShowsOnlyWhatThereIs)
     } vendors;
     Directories::installed().vendors = &vendors;
     form.show();
-    form.setNetwork(testNetwork(1).get(), {});
+    form.setNetwork(testNetwork(1), {});
     Directories::installed() = {};
     EXPECT_TRUE(label(form, "BSSID")->isVisible());
     EXPECT_EQ(label(form, "BSSID")->text(), QStringLiteral("02:00:00:00:00:01"));
