@@ -22,7 +22,7 @@ inline QColor legible(const QColor& color, const QPalette& palette)
 /// Text that stands back: a hint, a heading. The palette's own colour for it may be illegible.
 inline QColor dimmed(const QPalette& palette)
 {
-    QColor color = palette.color(QPalette::Text);
+    QColor color = palette.color(QPalette::Active, QPalette::Text); // also beside what is disabled
     color.setAlphaF(0.55F);
     return color;
 }

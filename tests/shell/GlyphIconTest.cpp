@@ -19,9 +19,9 @@ using namespace tessara;
 namespace {
 
 constexpr std::initializer_list<Glyph> kGlyphs = {
-    Glyph::kAdvanced, Glyph::kCategory,  Glyph::kDot,     Glyph::kGeneral,
-    Glyph::kLock,     Glyph::kLowSignal, Glyph::kPadlock, Glyph::kScan,
-    Glyph::kSearch,   Glyph::kStop,      Glyph::kTable,   Glyph::kTag,
+    Glyph::kAdvanced, Glyph::kBottomArea, Glyph::kCategory,  Glyph::kLeftArea, Glyph::kDot,
+    Glyph::kGeneral,  Glyph::kLock,       Glyph::kLowSignal, Glyph::kPadlock,  Glyph::kScan,
+    Glyph::kSearch,   Glyph::kStop,       Glyph::kTable,     Glyph::kTag,
 };
 
 /// The colours of the pixels that are covered whole; none for an empty picture.
