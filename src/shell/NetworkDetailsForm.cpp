@@ -264,7 +264,7 @@ void NetworkDetailsForm::fillSignal(const TSNetwork& network, const CellContext&
 /// As a link where the vendor's web site is known.
 QString NetworkDetailsForm::vendorText(const QString& vendor) const
 {
-    const QString name = vendor.toHtmlEscaped();
+    QString name = vendor.toHtmlEscaped();
     const auto url = m_urlForVendor ? m_urlForVendor(vendor) : std::nullopt;
     if (!url)
         return name;
