@@ -3,13 +3,10 @@
 // minutes.) Each run has a process of its own, so that its greatest memory is its own too.
 // "records_MB" is the heap that the records take, "above_MB" all that is taken above that at the
 // greatest.
-#include "persistence/ResultsDocument.h"
 #include "persistence/ResultsFile.h"
 
-#include <QCoreApplication>
 #include <QFile>
 #include <QTemporaryDir>
-#include <QTimer>
 
 #include <benchmark/benchmark.h>
 #include <plist/plist.h>
@@ -162,67 +159,6 @@ Measured save()
     return {watch.seconds(), 0, peakMemory() - peak};
 }
 
-/// The records as a window would hold them, and a user who has decided.
-class Shown final : public ShownResults {
-public:
-    const NetworkList& networks() const override { return list; }
-    double lastScanTime() const override { return kStart; }
-    void doStop() override {}
-    void doStopAndClearResults() override { list.clear(); }
-    void didFindNetworks(const NetworkList& networks, double) override { list = networks; }
-
-    NetworkList list;
-};
-class DecidedUser final : public UserPrompt {
-public:
-    AlertId beginAlert(const TSAlert& alert, Answer) override
-    {
-        qFatal("%s", qUtf8Printable(alert.informativeText));
-    }
-    void endAlert(AlertId) override {}
-    void beginSavePanel(const FileKind&, const FileAnswer& answer) override
-    {
-        answer(file() + QStringLiteral(".tessara"));
-    }
-    void endProgress(ProgressId) override { QCoreApplication::quit(); }
-};
-
-/// The longest time that the main thread was away from its events while a document was at work.
-Measured longestPause(void (*command)(ResultsDocument&), NetworkList networks)
-{
-    int count = 0;
-    const QCoreApplication application(count, nullptr);
-    Shown shown;
-    shown.list = std::move(networks);
-    DecidedUser user;
-    SystemClock clock;
-    ResultsDocument document(shown, user, clock);
-    double longest = 0;
-    Stopwatch watch;
-    QTimer heart;
-    QObject::connect(&heart, &QTimer::timeout, &heart, [&] {
-        longest = std::max(longest, watch.seconds());
-        watch = Stopwatch();
-    });
-    heart.start(0);
-    QTimer::singleShot(0, &heart, [&] { command(document); });
-    QCoreApplication::exec();
-    longest = std::max(longest, watch.seconds());
-    if (shown.list.size() != kNetworks)
-        qFatal("the work failed");
-    return {longest, 0, 0};
-}
-
-Measured longestPauseOfSave()
-{
-    return longestPause([](ResultsDocument& document) { document.onFileSaveAs(); }, makeNetworks());
-}
-
-Measured longestPauseOfOpen()
-{
-    return longestPause([](ResultsDocument& document) { document.openFile(file()); }, {});
-}
-
 QByteArray content()
 {
     QFile source(file());
@@ -244,14 +180,6 @@ Measured libplistParse()
 }
 
 BENCHMARK_CAPTURE(run, open, open)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(3);
-BENCHMARK_CAPTURE(run, longestPauseOfSave, longestPauseOfSave)
-    ->UseManualTime()
-    ->Unit(benchmark::kMillisecond)
-    ->Iterations(3);
-BENCHMARK_CAPTURE(run, longestPauseOfOpen, longestPauseOfOpen)
-    ->UseManualTime()
-    ->Unit(benchmark::kMillisecond)
-    ->Iterations(3);
 BENCHMARK_CAPTURE(run, libplistParse, libplistParse)
     ->UseManualTime()
     ->Unit(benchmark::kMillisecond)

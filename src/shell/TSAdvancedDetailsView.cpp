@@ -4,7 +4,7 @@
 #include "persistence/ClipboardText.h"
 #include "shell/HeaderMenu.h"
 #include "shell/InfoElementDelegate.h"
-#include "shell/LegibleColor.h"
+#include "shell/TreeViews.h"
 
 #include <QClipboard>
 #include <QContextMenuEvent>
@@ -13,7 +13,6 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMimeData>
-#include <QPainter>
 #include <QScopedValueRollback>
 #include <QScrollBar>
 
@@ -106,12 +105,7 @@ void TSAdvancedDetailsView::setPlaceholderText(const QString& text)
 
 void TSAdvancedDetailsView::setFontSize(double points)
 {
-    QFont font = this->font();
-    if (font.pointSizeF() == points)
-        return;
-    font.setPointSizeF(points);
-    setFont(font);
-    scheduleDelayedItemsLayout();
+    setFontSizeOf(*this, points);
 }
 
 QByteArray TSAdvancedDetailsView::layoutState() const
@@ -208,13 +202,10 @@ void TSAdvancedDetailsView::showHeaderMenu(const QPoint& position)
 
 void TSAdvancedDetailsView::keyPressEvent(QKeyEvent* event)
 {
-    const QString text = event->text();
-    const bool isTyping = !text.isEmpty() && text.front().isPrint() &&
-                          !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier));
     const QModelIndex current = currentIndex().siblingAtColumn(0);
     if (event->key() == Qt::Key_Space && current.isValid())
         setExpanded(current, !isExpanded(current));
-    else if (isTyping)
+    else if (isTyping(*event))
         event->ignore(); // it never selects
     else
         QTreeView::keyPressEvent(event);
@@ -223,11 +214,7 @@ void TSAdvancedDetailsView::keyPressEvent(QKeyEvent* event)
 void TSAdvancedDetailsView::paintEvent(QPaintEvent* event)
 {
     QTreeView::paintEvent(event);
-    if (m_model.rowCount() > 0)
-        return;
-    QPainter painter(viewport());
-    painter.setPen(dimmed(palette()));
-    painter.drawText(viewport()->rect(), Qt::AlignCenter | Qt::TextWordWrap, m_placeholderText);
+    paintPlaceholder(*this, m_placeholderText);
 }
 
 } // namespace tessara

@@ -3,8 +3,8 @@
 #include "foundation/Localized.h"
 #include "shell/ColumnLayout.h"
 #include "shell/HeaderMenu.h"
-#include "shell/LegibleColor.h"
 #include "shell/NetworkCellDelegate.h"
+#include "shell/TreeViews.h"
 
 #include <QApplication>
 #include <QHeaderView>
@@ -169,12 +169,7 @@ void TSNetworksView::setPlaceholderText(const QString& text)
 
 void TSNetworksView::setFontSize(double points)
 {
-    QFont font = this->font();
-    if (font.pointSizeF() == points)
-        return;
-    font.setPointSizeF(points);
-    setFont(font);
-    scheduleDelayedItemsLayout();
+    setFontSizeOf(*this, points);
 }
 
 void TSNetworksView::selectNetworks(const std::function<bool(const TSNetwork&)>& condition)
@@ -390,11 +385,7 @@ void TSNetworksView::showHeaderMenu(const QPoint& position)
 void TSNetworksView::paintEvent(QPaintEvent* event)
 {
     QTreeView::paintEvent(event);
-    if (m_model.rowCount() > 0)
-        return;
-    QPainter painter(viewport());
-    painter.setPen(dimmed(palette()));
-    painter.drawText(viewport()->rect(), Qt::AlignCenter | Qt::TextWordWrap, m_placeholderText);
+    paintPlaceholder(*this, m_placeholderText);
 }
 
 /// Carries the selection on to the right edge, where there are no columns.
@@ -413,11 +404,8 @@ void TSNetworksView::drawRow(QPainter* painter, const QStyleOptionViewItem& opti
 
 void TSNetworksView::keyPressEvent(QKeyEvent* event)
 {
-    const QString text = event->text();
-    const bool isTyping = !text.isEmpty() && text.front().isPrint() &&
-                          !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier));
     const bool isArrow = event->key() == Qt::Key_Up || event->key() == Qt::Key_Down;
-    if (isTyping)
+    if (isTyping(*event))
         event->ignore(); // it never selects, not even by the space bar
     else if (isArrow && currentIndex().isValid() && !selectionModel()->hasSelection())
         setCurrentIndex(currentIndex()); // the row that the keyboard begins at

@@ -3,6 +3,7 @@
 #include "foundation/Localized.h"
 
 #include "shell/ImageAndTextCell.h"
+#include "shell/TreeViews.h"
 
 #include <QContextMenuEvent>
 #include <QHeaderView>
@@ -71,9 +72,7 @@ void TSSideView::selectLast(const QString& title)
 
 void TSSideView::setFontSize(double points)
 {
-    QFont resized = font();
-    resized.setPointSizeF(points);
-    setFont(resized);
+    setFontSizeOf(*this, points);
 }
 
 void TSSideView::setExpandedItems(const QStringList& titles)
@@ -136,12 +135,9 @@ void TSSideView::mousePressEvent(QMouseEvent* event)
 
 void TSSideView::keyPressEvent(QKeyEvent* event)
 {
-    const QString text = event->text();
-    const bool isTyping = !text.isEmpty() && text.front().isPrint() &&
-                          !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier));
     if (event->key() == Qt::Key_Space && currentIndex().isValid())
         setExpanded(currentIndex(), !isExpanded(currentIndex()));
-    else if (isTyping)
+    else if (isTyping(*event))
         event->ignore(); // it never selects
     else
         QTreeView::keyPressEvent(event);
