@@ -8,7 +8,6 @@
 #include "elements/ElementNames.h"
 #include "elements/ElementVendor.h"
 #include "elements/FieldVisit.h"
-#include "foundation/Localized.h"
 
 #include <QLocale>
 
@@ -64,7 +63,7 @@ std::string TSInfoElement::ieDescription() const
     const char* description = descriptionOfElement(m_ieID);
     if (!description || languages.value(0) != QStringLiteral("en"))
         return {};
-    return localized(description).toStdString();
+    return description;
 }
 
 std::string TSInfoElement::ieIdentifier() const

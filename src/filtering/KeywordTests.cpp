@@ -86,7 +86,7 @@ FilterTest bandKeyword(QStringView token)
 {
     const QString bare = without(u" .\"", token);
     for (const BandInfo& info : bands()) {
-        if (isSame(bare, without(u" .", QString::fromLatin1(info.shortName)))) {
+        if (isSame(bare, without(u" .", QString::fromLatin1(info.shortName.text())))) {
             return testOn(FilterColumn::kBand, [band = info.band](const TSNetwork& network) {
                 return isChannelOfBand(network.channel(), band);
             });

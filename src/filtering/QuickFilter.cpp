@@ -7,10 +7,10 @@ namespace tessara {
 std::span<const QuickFilterItem> composeQuickFilterMenu()
 {
     static constexpr QuickFilterItem kItems[] = {
-        {QuickFilter::kAllNetworks, "All Networks"},
-        {QuickFilter::kOpenNetworks, "Open Networks"},
-        {QuickFilter::kSecureNetworks, "Secure Networks"},
-        {QuickFilter::kAdHocNetworks, "Ad Hoc Networks"},
+        {QuickFilter::kAllNetworks, "All Networks"_en},
+        {QuickFilter::kOpenNetworks, "Open Networks"_en},
+        {QuickFilter::kSecureNetworks, "Secure Networks"_en},
+        {QuickFilter::kAdHocNetworks, "Ad Hoc Networks"_en},
     };
     return kItems;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "foundation/Localized.h"
 #include "model/TSNetwork.h"
 
 #include <limits>
@@ -21,7 +22,7 @@ inline constexpr auto kQuickFilterNotFound =
 
 struct QuickFilterItem {
     QuickFilter tag;
-    const char* title; ///< English; shown through `localized`
+    EnglishText title;
 };
 
 /// The items of the menu, in order.

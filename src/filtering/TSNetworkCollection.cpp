@@ -132,7 +132,7 @@ std::set<std::int64_t> numbersOf(const NetworkList& members, Value value)
 }
 
 /// The list with its unit behind it, or nothing for nothing.
-QString withUnit(const QString& list, const char* format)
+QString withUnit(const QString& list, EnglishText format)
 {
     return list.isEmpty() ? QString() : localized(format).arg(list);
 }
@@ -309,9 +309,9 @@ QString TSNetworkCollection::channelBandValue() const
             return isChannelOfBand(member->channel(), info.band);
         });
         if (isUsed) // "5 GHz" less the unit, which all of them share
-            names += QString::fromLatin1(info.shortName).section(u' ', 0, 0);
+            names += QString::fromLatin1(info.shortName.text()).section(u' ', 0, 0);
     }
-    return withUnit(names.join(kSeparator), "%1 GHz");
+    return withUnit(names.join(kSeparator), "%1 GHz"_en);
 }
 
 QString TSNetworkCollection::channelWidthValue() const
@@ -324,7 +324,7 @@ QString TSNetworkCollection::channelWidthValue() const
         if (width != ChannelWidth::kUnknown)
             widths.insert(std::int64_t{10} << static_cast<int>(width));
     }
-    return withUnit(joined(widths), "%1 MHz");
+    return withUnit(joined(widths), "%1 MHz"_en);
 }
 
 QString TSNetworkCollection::minRateValue() const

@@ -80,7 +80,7 @@ bool byModes(const TitledValue& a, const TitledValue& b)
     return order != 0 ? order < 0 : byTitle(a, b);
 }
 
-TSSideViewItem categoryOf(const char* title, const QString& identifier, const Values& values,
+TSSideViewItem categoryOf(EnglishText title, const QString& identifier, const Values& values,
                           bool (*isBefore)(const TitledValue&, const TitledValue&) = byTitle)
 {
     std::vector<TitledValue> sorted;
@@ -127,13 +127,15 @@ std::vector<TSSideViewItem> sideViewOf(const NetworkList& networks)
 
     std::vector<TSSideViewItem> items = emptySideView();
     items.push_back(bandCategory());
-    items.push_back(categoryOf("Network Name", QStringLiteral("item-networkname"), facets.names));
     items.push_back(
-        categoryOf("PHY Mode", QStringLiteral("item-phymode"), facets.phyModes, byModes));
-    items.push_back(categoryOf("Security", QStringLiteral("item-securitymode"), facets.security));
+        categoryOf("Network Name"_en, QStringLiteral("item-networkname"), facets.names));
     items.push_back(
-        categoryOf("Access Point", QStringLiteral("item-accesspoint"), facets.accessPoints));
-    items.push_back(categoryOf("Vendor", QStringLiteral("item-vendor"), facets.vendors));
+        categoryOf("PHY Mode"_en, QStringLiteral("item-phymode"), facets.phyModes, byModes));
+    items.push_back(
+        categoryOf("Security"_en, QStringLiteral("item-securitymode"), facets.security));
+    items.push_back(
+        categoryOf("Access Point"_en, QStringLiteral("item-accesspoint"), facets.accessPoints));
+    items.push_back(categoryOf("Vendor"_en, QStringLiteral("item-vendor"), facets.vendors));
     return items;
 }
 

@@ -7,8 +7,8 @@ namespace tessara {
 namespace {
 
 constexpr BandInfo kBands[] = {
-    {Band::k2Dot4GHz, "2.4 GHz", 1, 14, 2407},
-    {Band::k5GHz, "5 GHz", 36, 165, 5000},
+    {Band::k2Dot4GHz, "2.4 GHz"_en, 1, 14, 2407},
+    {Band::k5GHz, "5 GHz"_en, 36, 165, 5000},
 };
 
 // Channel 14 stands apart from the grid of the others.

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "foundation/Localized.h"
+
 #include <cstdint>
 #include <optional>
 #include <span>
@@ -12,7 +14,7 @@ enum class Band : std::uint8_t { k2Dot4GHz = 1, k5GHz = 2 };
 /// What there is to know of a band.
 struct BandInfo {
     Band band;
-    const char* shortName;
+    EnglishText shortName;
     int firstChannel; ///< the lowest and the highest channel whose frequency is known
     int lastChannel;
     int startMHz; ///< channel n is centred at startMHz + 5 n (IEEE Std 802.11-2020, 17.3.8.4.2)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "foundation/Localized.h"
+
 #include <QCollatorSortKey>
 #include <QString>
 #include <QVariant>
@@ -35,8 +37,8 @@ struct CellContext {
 /// command line all read this.
 struct Column {
     QString identifier;
-    const char* title;       ///< English; shown through `localized`
-    const char* description; ///< English; one sentence for a tool tip
+    EnglishText title;
+    EnglishText description; ///< one sentence for a tool tip
     bool hidden;             ///< until the user asks for it
     double width;            ///< points; 0 leaves it to the table
     double minimumWidth;

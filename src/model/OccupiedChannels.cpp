@@ -97,21 +97,21 @@ ChannelRangeText humanReadableChannelRange(const ChannelPlace& place)
     return range;
 }
 
-const char* humanReadableChannelBand(std::int64_t channel)
+EnglishText humanReadableChannelBand(std::int64_t channel)
 {
     struct BandPart {
         std::int64_t firstChannel;
-        const char* name;
+        EnglishText name;
     };
     constexpr BandPart kParts[] = {
-        {149, "5 GHz UNII-3"},
-        {100, "5 GHz UNII-2 Extended"},
-        {49, "5 GHz UNII-2"},
-        {36, "5 GHz UNII-1"},
+        {149, "5 GHz UNII-3"_en},
+        {100, "5 GHz UNII-2 Extended"_en},
+        {49, "5 GHz UNII-2"_en},
+        {36, "5 GHz UNII-1"_en},
     };
     const auto* part = std::ranges::find_if(
         kParts, [channel](const BandPart& candidate) { return channel >= candidate.firstChannel; });
-    return part == std::end(kParts) ? "2.4 GHz ISM" : part->name;
+    return part == std::end(kParts) ? "2.4 GHz ISM"_en : part->name;
 }
 
 } // namespace tessara

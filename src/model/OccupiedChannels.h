@@ -1,5 +1,6 @@
 #pragma once
 
+#include "foundation/Localized.h"
 #include "model/ChannelWidth.h"
 
 #include <QString>
@@ -35,7 +36,7 @@ struct ChannelRangeText {
 };
 ChannelRangeText humanReadableChannelRange(const ChannelPlace& place);
 
-/// "5 GHz UNII-1"; English, shown through `localized`.
-const char* humanReadableChannelBand(std::int64_t channel);
+/// "5 GHz UNII-1".
+EnglishText humanReadableChannelBand(std::int64_t channel);
 
 } // namespace tessara

@@ -10,45 +10,45 @@ namespace {
 using enum SecurityMode;
 
 constexpr SecurityModeInfo kModes[] = {
-    {.mode = kNone, .name = "None", .shortName = "", .isOpen = true},
-    {.mode = kWEP, .name = "WEP", .shortName = "WEP", .isWEP = true},
+    {.mode = kNone, .name = "None"_en, .shortName = "", .isOpen = true},
+    {.mode = kWEP, .name = "WEP"_en, .shortName = "WEP", .isWEP = true},
     {.mode = kWPAPersonal,
-     .name = "WPA Personal",
+     .name = "WPA Personal"_en,
      .shortName = "WPA (PSK)",
      .isWPA = true,
      .isPSK = true},
     {.mode = kWPAAndWPA2Personal,
-     .name = "WPA/WPA2 Personal",
+     .name = "WPA/WPA2 Personal"_en,
      .shortName = "WPA/WPA2 (PSK)",
      .isWPA = true,
      .isWPA2 = true,
      .isPSK = true},
     {.mode = kWPA2Personal,
-     .name = "WPA2 Personal",
+     .name = "WPA2 Personal"_en,
      .shortName = "WPA2 (PSK)",
      .isWPA2 = true,
      .isPSK = true},
-    {.mode = kDynamicWEP, .name = "Dynamic WEP", .shortName = "WEP (802.1X)"},
+    {.mode = kDynamicWEP, .name = "Dynamic WEP"_en, .shortName = "WEP (802.1X)"},
     {.mode = kWPAEnterprise,
-     .name = "WPA Enterprise",
+     .name = "WPA Enterprise"_en,
      .shortName = "WPA (802.1X)",
      .isWPA = true,
      .is80211X = true},
     {.mode = kWPAAndWPA2Enterprise,
-     .name = "WPA/WPA2 Enterprise",
+     .name = "WPA/WPA2 Enterprise"_en,
      .shortName = "WPA/WPA2 (802.1X)",
      .isWPA = true,
      .isWPA2 = true,
      .is80211X = true},
     {.mode = kWPA2Enterprise,
-     .name = "WPA2 Enterprise",
+     .name = "WPA2 Enterprise"_en,
      .shortName = "WPA2 (802.1X)",
      .isWPA2 = true,
      .is80211X = true},
-    {.mode = kUnknown, .name = "", .shortName = "", .isOpen = true},
+    {.mode = kUnknown, .name = {}, .shortName = "", .isOpen = true},
 };
 
-constexpr SecurityModeInfo kNoSuchMode = {.mode = kUnknown, .name = "", .shortName = ""};
+constexpr SecurityModeInfo kNoSuchMode = {.mode = kUnknown, .name = {}, .shortName = ""};
 
 } // namespace
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "foundation/Localized.h"
+
 #include <cstdint>
 #include <limits>
 
@@ -23,7 +25,7 @@ enum class SecurityMode : std::int64_t {
 /// What there is to know of a kind of security.
 struct SecurityModeInfo {
     SecurityMode mode;
-    const char* name;      ///< "WPA2 Personal"; English, shown through `localized`
+    EnglishText name;      ///< "WPA2 Personal"
     const char* shortName; ///< "WPA2 (PSK)"; the same in every language
     bool isOpen = false;
     bool isWEP = false;

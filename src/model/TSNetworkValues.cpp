@@ -21,12 +21,6 @@ QString textOf(const std::array<const char*, count>& texts, int code)
                : QString();
 }
 
-/// A text for the user, or none: the look-up knows no empty text.
-QString localizedOrEmpty(const char* englishText)
-{
-    return *englishText ? localized(englishText) : QString();
-}
-
 } // namespace
 
 QString TSNetwork::humanReadableChannelBand() const
@@ -64,7 +58,7 @@ QString TSNetwork::humanReadableFastBssTransition() const
 
 QString TSNetwork::networkType() const
 {
-    return localized(isAdHoc() ? "Ad-Hoc" : "Infrastructure");
+    return localized(isAdHoc() ? "Ad-Hoc"_en : "Infrastructure"_en);
 }
 
 int TSNetwork::estimatedMCS() const
@@ -96,7 +90,7 @@ QString TSNetwork::humanReadableBasicDataRates() const
 
 QString TSNetwork::securityMode() const
 {
-    return localizedOrEmpty(security().name);
+    return localized(security().name);
 }
 
 QString TSNetwork::shortSecurityMode() const
@@ -144,7 +138,7 @@ QString TSNetwork::wpsValue() const
         return {};
     if (m_attributes.wpsLocked)
         return localized("Locked");
-    return localized(m_attributes.wpsConfigured ? "Configured" : "Not Configured");
+    return localized(m_attributes.wpsConfigured ? "Configured"_en : "Not Configured"_en);
 }
 
 QString TSNetwork::beaconIntervalValue() const

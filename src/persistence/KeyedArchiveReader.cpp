@@ -149,7 +149,7 @@ KeyedArchiveReader::Object KeyedArchiveReader::classOf(const Object& object) con
 
 // A value ---------------------------------------------------------------------------------------
 
-void ArchivedValue::refuse(const char* what) const
+void ArchivedValue::refuse(EnglishText what) const
 {
     m_archive->refuse(QStringLiteral("\"%1\" %2").arg(QLatin1String(m_name), localized(what)));
 }
@@ -199,7 +199,7 @@ ArchivedValue ArchivedValue::operator[](ArchiveKey& key) const
     if (isAbsent())
         return nothing;
     if (m_object.kind != Kind::kDictionary || m_object.count > kMostKeys) {
-        refuse("is no object");
+        refuse("is no object"_en);
         return nothing;
     }
     const auto place = placeOf(key);
@@ -232,7 +232,7 @@ std::int64_t ArchivedValue::integer() const
     default:
         break;
     }
-    refuse("is no number");
+    refuse("is no number"_en);
     return 0;
 }
 
@@ -269,7 +269,7 @@ std::optional<QString> ArchivedValue::string() const
     default:
         break;
     }
-    refuse("is no text");
+    refuse("is no text"_en);
     return std::nullopt;
 }
 
@@ -283,7 +283,7 @@ std::optional<QByteArray> ArchivedValue::data() const
         const QLatin1String characters = charactersAsText(bytes.m_object.payload);
         return QByteArray(characters.data(), characters.size());
     }
-    refuse("is no data");
+    refuse("is no data"_en);
     return std::nullopt;
 }
 
@@ -303,7 +303,7 @@ std::optional<double> ArchivedValue::date() const
         if (seconds >= kFirst && seconds <= kLast)
             return seconds;
     }
-    refuse("is no date");
+    refuse("is no date"_en);
     return std::nullopt;
 }
 
@@ -312,7 +312,7 @@ std::optional<QColor> ArchivedValue::color() const
     if (isAbsent())
         return std::nullopt;
     if (!isKindOf(QLatin1String("NSColor"))) {
-        refuse("is no colour");
+        refuse("is no colour"_en);
         return std::nullopt;
     }
     const ArchivedValue named = member(KeyedArchive::kColor);
@@ -346,7 +346,7 @@ std::optional<std::vector<float>> ArchivedValue::components(const ArchivedValue&
             numbers.push_back(std::clamp(number, 0.0F, 1.0F));
     }
     if (numbers.size() != count && numbers.size() != count + 1) {
-        refuse("is no colour");
+        refuse("is no colour"_en);
         return std::nullopt;
     }
     numbers.resize(count + 1, 1.0F);
@@ -359,7 +359,7 @@ BinaryPlistReader::Object ArchivedValue::collection(const char* name, const char
         return {};
     const auto list = m_archive->named(m_object, name);
     if (list.kind != Kind::kArray || !isKindOf(QLatin1String(kind))) {
-        refuse("is no collection");
+        refuse("is no collection"_en);
         return {};
     }
     return m_archive->spend(kBytesOfElement * list.count) ? list : BinaryPlistReader::Object();

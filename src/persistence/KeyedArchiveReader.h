@@ -1,5 +1,6 @@
 #pragma once
 
+#include "foundation/Localized.h"
 #include "persistence/BinaryPlistReader.h"
 #include "persistence/KeyedArchive.h"
 
@@ -89,7 +90,7 @@ private:
     std::optional<std::vector<float>> components(const ArchivedValue& bytes,
                                                  std::size_t count) const;
     double real() const;
-    void refuse(const char* what) const;
+    void refuse(EnglishText what) const;
 
     KeyedArchiveReader* m_archive;
     const char* m_name; ///< what it was asked for as
@@ -168,7 +169,7 @@ void ArchivedValue::forEachEntry(const Visitor& visit) const
     const auto keys = collection(KeyedArchive::kKeys, "NSDictionary");
     const auto values = collection(KeyedArchive::kElements, "NSDictionary");
     if (keys.count != values.count)
-        refuse("is no dictionary");
+        refuse("is no dictionary"_en);
     for (std::uint64_t i = 0; i < keys.count && !m_archive->isRefused(); ++i) {
         const auto key = m_archive->value(m_name, m_archive->m_plist->element(keys, i)).string();
         visit(key.value_or(QString()),

@@ -29,11 +29,11 @@ StateInfo stateInfo(bool isScanning, const QString& windowTitle, const CWInterfa
         if (windowTitle == localized("Data from Clipboard"))
             return {windowTitle, {}};
         const QString lastComponent = windowTitle.section(u'/', -1);
-        return {QStringLiteral("File: %1").arg(lastComponent), windowTitle};
+        return {localized("File: %1").arg(lastComponent), windowTitle};
     }
     if (!interface)
         return {};
-    const QString mode = localized(isScanning ? "Scanning" : "Not scanning");
+    const QString mode = localized(isScanning ? "Scanning"_en : "Not scanning"_en);
     return {QStringLiteral("%1: %2  |  %3")
                 .arg(interface->interfaceName(), mode, associationText(*interface)),
             {}};

@@ -520,8 +520,8 @@ QString AppDelegate::placeholderText() const
 {
     if (!m_pipeline.networks().empty())
         return localized("No network passes the filters");
-    return localized(m_scanCycle.isScanning() ? "No networks yet"
-                                              : "Press Scan to look for networks");
+    return localized(m_scanCycle.isScanning() ? "No networks yet"_en
+                                              : "Press Scan to look for networks"_en);
 }
 
 void AppDelegate::configureNetworksView()

@@ -24,11 +24,11 @@ constexpr int kMargin = 18; // pixels
 
 struct Choice {
     qint64 tag; ///< the value of the setting
-    const char* title;
+    EnglishText title;
 };
-constexpr Choice kUnits[] = {{0, "Percent"}, {1, "dBm"}};
-constexpr Choice kTimes[] = {{1, "1 minute"},   {2, "2 minutes"}, {3, "5 minutes"},
-                             {4, "30 minutes"}, {5, "1 hour"},    {6, "2 hours"}};
+constexpr Choice kUnits[] = {{0, "Percent"_en}, {1, "dBm"_en}};
+constexpr Choice kTimes[] = {{1, "1 minute"_en},   {2, "2 minutes"_en}, {3, "5 minutes"_en},
+                             {4, "30 minutes"_en}, {5, "1 hour"_en},    {6, "2 hours"_en}};
 
 constexpr Choice kUpdateIntervals[] = {{86400, "Daily"}, {604800, "Weekly"}, {2592000, "Monthly"}};
 

@@ -29,13 +29,13 @@ constexpr double kMagnification = 0.2;
 /// The tabs by the identifiers that the settings know them by.
 struct GraphTab {
     QStringView identifier;
-    const char* title;
+    EnglishText title;
 };
 constexpr GraphTab kTabs[] = {
-    {u"NetworkDetails", "Network Details"},
-    {u"SignalStrength", "Signal Strength"},
-    {u"Spectrum", "Spectrum"},
-    {u"AdvancedDetails", "Advanced Details"},
+    {u"NetworkDetails", "Network Details"_en},
+    {u"SignalStrength", "Signal Strength"_en},
+    {u"Spectrum", "Spectrum"_en},
+    {u"AdvancedDetails", "Advanced Details"_en},
 };
 
 } // namespace
@@ -78,7 +78,7 @@ GraphTabs::GraphTabs(const Clock& clock, QWidget* parent)
     tabDidChange(m_tabBar->currentIndex());
 }
 
-void GraphTabs::addTab(const char* title, QWidget* page)
+void GraphTabs::addTab(EnglishText title, QWidget* page)
 {
     const int index = m_tabBar->addTab(localized(title));
     page->setAccessibleName(localized(title));

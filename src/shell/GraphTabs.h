@@ -1,5 +1,6 @@
 #pragma once
 
+#include "foundation/Localized.h"
 #include "model/ColumnRegistry.h"
 #include "model/TSNetwork.h"
 
@@ -51,7 +52,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void addTab(const char* title, QWidget* page);
+    void addTab(EnglishText title, QWidget* page);
     void tabDidChange(int index);
     void configure();
     void configureAdvancedDetailsTabView();

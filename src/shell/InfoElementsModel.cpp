@@ -18,14 +18,14 @@ using Row = InfoElementRow;
 using Rows = std::vector<std::unique_ptr<Row>>;
 
 struct ElementColumn {
-    const char* title;
-    const char* description;
+    EnglishText title;
+    EnglishText description;
 };
 constexpr ElementColumn kColumns[InfoElementsModel::kColumnCount] = {
-    {"ID", "Number of the element"},
-    {"Length", "Length of the element without its first two octets"},
-    {"Information Element", "Name of the element, and of its fields"},
-    {"Fields", "What the element says"},
+    {"ID"_en, "Number of the element"_en},
+    {"Length"_en, "Length of the element without its first two octets"_en},
+    {"Information Element"_en, "Name of the element, and of its fields"_en},
+    {"Fields"_en, "What the element says"_en},
 };
 
 QString textOf(std::string_view utf8)

@@ -9,13 +9,13 @@ namespace tessara {
 namespace {
 
 struct Interval {
-    const char* format;
-    const char* unit;
+    EnglishText format;
+    EnglishText unit;
 };
 constexpr Interval kIntervals[] = {
-    {"1 %1", "second"},   {"2 %1", "seconds"},  {"5 %1", "seconds"},
-    {"10 %1", "seconds"}, {"15 %1", "seconds"}, {"30 %1", "seconds"},
-    {"1 %1", "minute"},   {"2 %1", "minutes"},  {"5 %1", "minutes"},
+    {"1 %1"_en, "second"_en},   {"2 %1"_en, "seconds"_en},  {"5 %1"_en, "seconds"_en},
+    {"10 %1"_en, "seconds"_en}, {"15 %1"_en, "seconds"_en}, {"30 %1"_en, "seconds"_en},
+    {"1 %1"_en, "minute"_en},   {"2 %1"_en, "minutes"_en},  {"5 %1"_en, "minutes"_en},
 };
 
 } // namespace

@@ -26,25 +26,25 @@ constexpr double kTextStep = 1.0; // points
 
 /// The publisher's pages.
 struct WebPage {
-    const char* title;
+    EnglishText title;
     const char* address;
 };
 constexpr WebPage kWebPages[] = {
-    {"Tessara &Support", TESSARA_SUPPORT_URL},
-    {"Tessara on &Twitter", TESSARA_TWITTER_URL},
-    {"Tessara on Face&book", TESSARA_FACEBOOK_URL},
+    {"Tessara &Support"_en, TESSARA_SUPPORT_URL},
+    {"Tessara on &Twitter"_en, TESSARA_TWITTER_URL},
+    {"Tessara on Face&book"_en, TESSARA_FACEBOOK_URL},
 };
 
 /// What the Edit menu does to a field with the keyboard, if there is one.
 struct FieldCommand {
-    const char* title;
+    EnglishText title;
     QKeySequence::StandardKey key;
     void (QLineEdit::*command)();
 };
 const FieldCommand kFieldCommands[] = {
-    {"&Undo", QKeySequence::Undo, &QLineEdit::undo},
-    {"Cu&t", QKeySequence::Cut, &QLineEdit::cut},
-    {"&Paste", QKeySequence::Paste, &QLineEdit::paste},
+    {"&Undo"_en, QKeySequence::Undo, &QLineEdit::undo},
+    {"Cu&t"_en, QKeySequence::Cut, &QLineEdit::cut},
+    {"&Paste"_en, QKeySequence::Paste, &QLineEdit::paste},
 };
 
 QLineEdit* fieldWithKeyboard()
@@ -257,8 +257,8 @@ void MainMenu::setQuickFilter(QuickFilter filter)
 void MainMenu::makeOrganizeItems(QMenu& view)
 {
     view.addSeparator()->setVisible(false);
-    for (const char* title : {"Organize Networks by Name", "Organize Networks by Radio",
-                              "Organize Networks by Access Point"}) {
+    for (const EnglishText title : {"Organize Networks by Name"_en, "Organize Networks by Radio"_en,
+                                    "Organize Networks by Access Point"_en}) {
         view.addAction(localized(title), this, &MainMenu::organizeNetworksByRequested)
             ->setVisible(false);
     }

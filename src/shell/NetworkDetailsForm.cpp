@@ -105,8 +105,8 @@ void NetworkDetailsForm::makeForm()
     m_ssidLbl->setFont(bold);
     m_grid->addWidget(m_networkColorWell, 0, kCaption, Qt::AlignRight | Qt::AlignVCenter);
     m_grid->addWidget(m_ssidLbl, 0, kValue, 1, 2);
-    m_bssid = addRow("BSSID");
-    m_vendor = addRow("Vendor");
+    m_bssid = addRow("BSSID"_en);
+    m_vendor = addRow("Vendor"_en);
     m_vendor.value->setTextFormat(Qt::RichText);
     m_vendor.value->setOpenExternalLinks(true);
     m_vendor.value->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::LinksAccessibleByMouse |
@@ -115,21 +115,21 @@ void NetworkDetailsForm::makeForm()
     addSpace();
     makeSignalRows();
     addSpace();
-    m_band = addRow("Band");
-    m_channel = addRow("Channel");
+    m_band = addRow("Band"_en);
+    m_channel = addRow("Channel"_en);
     m_channel.value->setTextFormat(Qt::RichText);
-    m_width = addRow("Channel Width");
-    m_mode = addRow("Mode");
-    m_networkType = addRow("Network Type");
-    m_beaconInterval = addRow("Beacon Interval");
+    m_width = addRow("Channel Width"_en);
+    m_mode = addRow("Mode"_en);
+    m_networkType = addRow("Network Type"_en);
+    m_beaconInterval = addRow("Beacon Interval"_en);
     addSpace();
-    m_security = addRow("Security");
+    m_security = addRow("Security"_en);
     m_iconSecurityImg = addIcon(m_security, glyphIcon(Glyph::kLock));
-    m_encryption = addRow("Encryption");
-    m_wps = addRow("WPS");
+    m_encryption = addRow("Encryption"_en);
+    m_wps = addRow("WPS"_en);
     addSpace();
-    m_rates = addRow("Basic Rates");
-    m_maxRate = addRow("Max Rate");
+    m_rates = addRow("Basic Rates"_en);
+    m_maxRate = addRow("Max Rate"_en);
     m_grid->setRowStretch(m_grid->rowCount(), 1);
     m_pages->addWidget(form);
 }
@@ -150,18 +150,18 @@ void NetworkDetailsForm::makeSignalRows()
     };
     const int captions = m_grid->rowCount();
     m_grid->addWidget(makeCaption(localized("Avg/Min/Max")), captions, kSecondValue, Qt::AlignLeft);
-    m_rssi = addRow("Signal");
+    m_rssi = addRow("Signal"_en);
     m_rssiAvgLbl = addStatistic(m_rssi);
-    m_noise = addRow("Noise");
+    m_noise = addRow("Noise"_en);
     m_noiseAvgLbl = addStatistic(m_noise);
-    m_snr = addRow("SNR");
+    m_snr = addRow("SNR"_en);
     m_snrAvgLbl = addStatistic(m_snr);
-    m_signalQuality = addRow("Quality");
+    m_signalQuality = addRow("Quality"_en);
     m_iconSignalQualityImg = addIcon(m_signalQuality, glyphIcon(Glyph::kLowSignal));
     m_iconSignalQualityImg->setToolTip(localized("The signal is weak beside the noise"));
 }
 
-NetworkDetailsForm::Row NetworkDetailsForm::addRow(const char* caption)
+NetworkDetailsForm::Row NetworkDetailsForm::addRow(EnglishText caption)
 {
     const Row row{makeCaption(localized(caption) + u':'), makeValue()};
     const int place = m_grid->rowCount();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "foundation/Localized.h"
 #include "model/ColumnRegistry.h"
 #include "model/TSNetwork.h"
 
@@ -42,7 +43,7 @@ private:
         void setText(const QString& text) const;
     };
 
-    Row addRow(const char* caption);
+    Row addRow(EnglishText caption);
     QLabel* addIcon(const Row& row, const QIcon& icon);
     void addSpace();
     void askForColor();

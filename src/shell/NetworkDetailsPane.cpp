@@ -15,7 +15,8 @@ namespace tessara {
 namespace {
 
 /// What the chart can show, in the order of the setting.
-constexpr const char* kMetricTitles[] = {"Signal", "Signal and Noise", "Signal-to-Noise Ratio"};
+constexpr EnglishText kMetricTitles[] = {"Signal"_en, "Signal and Noise"_en,
+                                         "Signal-to-Noise Ratio"_en};
 
 } // namespace
 
@@ -47,7 +48,7 @@ NetworkDetailsPane::NetworkDetailsPane(const Clock& clock, QWidget* parent)
     layout->addWidget(m_form);
     layout->addLayout(graph, 1);
 
-    for (const char* title : kMetricTitles) {
+    for (const EnglishText title : kMetricTitles) {
         const int index = m_metricPopUp->count();
         m_metricPopUp->addItem(localized(title));
         QAction* item = m_metricItems->addAction(localized(title));

@@ -14,10 +14,10 @@ struct QualityLevel {
     SignalQuality quality;
 };
 constexpr QualityLevel kQualityLevels[] = {
-    {41, {"Excellent"}},
-    {26, {"Good"}},
-    {16, {"Poor", true}},
-    {11, {"Very Poor", true}},
+    {41, {"Excellent"_en}},
+    {26, {"Good"_en}},
+    {16, {"Poor"_en, true}},
+    {11, {"Very Poor"_en, true}},
 };
 
 QString levelText(std::int64_t level, bool dBm)
@@ -36,7 +36,7 @@ QString statisticText(const RunningStatistic& levels, bool dBm)
         .arg(signalPercentage(levels.max));
 }
 
-QString withUnit(const QString& value, const char* unit)
+QString withUnit(const QString& value, EnglishText unit)
 {
     return value.isEmpty() ? QString() : QStringLiteral("%1 %2").arg(value, localized(unit));
 }
@@ -47,14 +47,14 @@ SignalQuality signalQuality(std::int64_t snr)
 {
     const auto* level = std::ranges::find_if(
         kQualityLevels, [snr](const QualityLevel& each) { return snr >= each.leastSNR; });
-    return level == std::end(kQualityLevels) ? SignalQuality{"Extremely Poor", true}
+    return level == std::end(kQualityLevels) ? SignalQuality{"Extremely Poor"_en, true}
                                              : level->quality;
 }
 
 SignalQuality signalQuality(const TSNetwork& network, bool isScanning)
 {
     if (isScanning && network.rssi() == TSDataPoint::kNoData)
-        return {.text = "No Signal", .isMissing = true};
+        return {.text = "No Signal"_en, .isMissing = true};
     return signalQuality(network.snrLast());
 }
 
@@ -78,8 +78,8 @@ NetworkDetailsText NetworkDetailsText::of(const TSNetwork& network, bool dBm)
     text.snrAvg = QStringLiteral("%1/%2/%3 dB").arg(snr.avg).arg(snr.min).arg(snr.max);
     text.security = network.securityMode();
     text.wps = network.wpsValue();
-    text.rates = withUnit(network.humanReadableBasicDataRates(), "Mbps");
-    text.allRates = withUnit(network.humanReadableDataRates(), "Mbps");
+    text.rates = withUnit(network.humanReadableBasicDataRates(), "Mbps"_en);
+    text.allRates = withUnit(network.humanReadableDataRates(), "Mbps"_en);
     if (!network.phyMode().isEmpty())
         text.mode = QStringLiteral("802.11%1").arg(network.phyMode());
     if (security.isWPA || security.isWPA2)
@@ -88,10 +88,10 @@ NetworkDetailsText NetworkDetailsText::of(const TSNetwork& network, bool dBm)
         text.wps = localized("Not Detected");
     if (network.maxRate() > 0)
         text.maxRate =
-            withUnit(QString::number(static_cast<qulonglong>(network.maxRate())), "Mbps");
+            withUnit(QString::number(static_cast<qulonglong>(network.maxRate())), "Mbps"_en);
     if (network.beaconInterval() > 0)
-        text.beaconInterval =
-            withUnit(QString::number(static_cast<double>(network.beaconInterval()), 'f', 1), "ms");
+        text.beaconInterval = withUnit(
+            QString::number(static_cast<double>(network.beaconInterval()), 'f', 1), "ms"_en);
     return text;
 }
 

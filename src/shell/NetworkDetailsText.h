@@ -1,5 +1,6 @@
 #pragma once
 
+#include "foundation/Localized.h"
 #include "model/ColumnRegistry.h"
 #include "model/TSNetwork.h"
 
@@ -7,7 +8,7 @@ namespace tessara {
 
 /// How good a connection would be by the ratio of signal to noise.
 struct SignalQuality {
-    const char* text; ///< English; shown through `localized`
+    EnglishText text;
     bool isPoor = false;
     bool isMissing = false; ///< there is no signal at all now
 };

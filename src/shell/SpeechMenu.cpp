@@ -12,19 +12,19 @@ namespace {
 /// How long after a report an unchanged signal is told again.
 struct RepeatInterval {
     double seconds;
-    const char* title;
+    EnglishText title;
 };
 constexpr RepeatInterval kRepeatIntervals[] = {
-    {0, "&Never"},
-    {5, "After 5 Seconds"},
-    {10, "After 10 Seconds"},
-    {15, "After 15 Seconds"},
-    {30, "After 30 Seconds"},
-    {60, "After 1 Minute"},
+    {0, "&Never"_en},
+    {5, "After 5 Seconds"_en},
+    {10, "After 10 Seconds"_en},
+    {15, "After 15 Seconds"_en},
+    {30, "After 30 Seconds"_en},
+    {60, "After 1 Minute"_en},
 };
 
 /// An item that turns a setting on and off.
-QAction* addSetting(QMenu& menu, const char* title, QStringView key)
+QAction* addSetting(QMenu& menu, EnglishText title, QStringView key)
 {
     QAction* item = menu.addAction(localized(title));
     item->setCheckable(true);
@@ -43,9 +43,10 @@ SpeechMenu::SpeechMenu(QWidget* parent)
     m_speakMenuItem->setObjectName(QStringLiteral("speakMenuItem"));
     m_speakMenuItem->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_T));
     addSeparator();
-    m_speakOn = addSetting(*this, "Speak the &Signal of the Selected Network", DefaultKey::SpeakOn);
+    m_speakOn =
+        addSetting(*this, "Speak the &Signal of the Selected Network"_en, DefaultKey::SpeakOn);
     m_speakWhenOnBackground =
-        addSetting(*this, "Speak in the &Background", DefaultKey::SpeakWhenOnBackground);
+        addSetting(*this, "Speak in the &Background"_en, DefaultKey::SpeakWhenOnBackground);
     makeRepeatMenu();
     connect(&Defaults::standard(), &Defaults::didChange, this, &SpeechMenu::validateItems);
     validateItems();
@@ -77,7 +78,7 @@ void SpeechMenu::validateItems()
 {
     const Defaults& defaults = Defaults::standard();
     const bool isOn = defaults.boolForKey(DefaultKey::SpeakOn);
-    m_speakMenuItem->setText(localized(m_isSpeaking ? "S&top Speaking" : "Speak &Now"));
+    m_speakMenuItem->setText(localized(m_isSpeaking ? "S&top Speaking"_en : "Speak &Now"_en));
     m_speakMenuItem->setEnabled(isOn || m_isSpeaking);
     m_speakOn->setChecked(isOn);
     m_speakWhenOnBackground->setChecked(defaults.boolForKey(DefaultKey::SpeakWhenOnBackground));

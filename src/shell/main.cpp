@@ -8,10 +8,12 @@
 #include "scanning/StateInfo.h"
 #include "scanning/SystemWiFiService.h"
 #include "shell/AppDelegate.h"
+#include "shell/Translations.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QIcon>
+#include <QLocale>
 #include <QTextStream>
 
 #include <algorithm>
@@ -61,6 +63,8 @@ int main(int argc, char** argv)
         QTextStream(stderr) << "tessara: " << error << Qt::endl;
         return 2;
     }
+
+    installTranslations(QLocale::system().uiLanguages());
 
     ScanRuntime runtime;
     SystemWiFiService wifi(runtime.clock(), runtime.pause(), runtime.notifications());

@@ -64,7 +64,7 @@ TEST(OccupiedChannels, AreThoseOfTheBlockThatHoldsThePrimaryOne)
         {149, "5 GHz UNII-3"},
     };
     for (const auto& [channel, name] : parts)
-        EXPECT_STREQ(humanReadableChannelBand(channel), name) << channel;
+        EXPECT_STREQ(humanReadableChannelBand(channel).text(), name) << channel;
 }
 
 TEST(RateText, ShowsTenthsOnlyWhereThereAreSome)

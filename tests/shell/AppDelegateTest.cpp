@@ -209,7 +209,7 @@ TEST_F(AppDelegateTest, TellsInTheSpectrumWhatTheListHasColumnsFor)
     QMenu columns;
     table().addColumnItems(columns);
     const auto show = [&](QStringView identifier, bool shown) {
-        const QString title = QString::fromUtf8(columnWithIdentifier(identifier)->title);
+        const QString title = localized(columnWithIdentifier(identifier)->title);
         for (QAction* item : columns.actions()) {
             if (item->text() == title)
                 item->setChecked(shown);

@@ -29,13 +29,14 @@ TEST(NetworkDetailsText, TellsTheQualityByTheRatioOfSignalToNoise)
         {41, "Excellent"}, {40, "Good"},      {26, "Good"},      {25, "Poor"},
         {16, "Poor"},      {15, "Very Poor"}, {11, "Very Poor"}, {10, "Extremely Poor"}};
     for (const auto& [snr, text] : levels) {
-        EXPECT_STREQ(signalQuality(snr).text, text) << snr;
+        EXPECT_STREQ(signalQuality(snr).text.text(), text) << snr;
         EXPECT_EQ(signalQuality(snr).isPoor, snr <= 25) << snr;
     }
     const NetworkPtr network = testNetwork(1, -50);
     network->addDataPoint({-120, -120, -1, -1, 2});
-    EXPECT_STREQ(signalQuality(*network, true).text, "No Signal");
-    EXPECT_STREQ(signalQuality(*network, false).text, "Excellent") << "of a file the last reading";
+    EXPECT_STREQ(signalQuality(*network, true).text.text(), "No Signal");
+    EXPECT_STREQ(signalQuality(*network, false).text.text(), "Excellent")
+        << "of a file the last reading";
 }
 
 TEST(NetworkDetailsText, HasReadingsInTheChosenUnit)

@@ -254,7 +254,7 @@ TEST_F(NetworksViewTest, OffersEachColumnButTheMarkerInItsMenu)
     }));
 
     const auto item = [&](QStringView identifier) {
-        const QString title = QString::fromLatin1(columnWithIdentifier(identifier)->title);
+        const QString title = localized(columnWithIdentifier(identifier)->title);
         return menu.actions().at(titles.indexOf(title));
     };
     EXPECT_FALSE(item(u"BSSID")->isEnabled());
