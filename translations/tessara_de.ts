@@ -345,7 +345,7 @@
     </message>
     <message>
         <source>Ch. Utilization</source>
-        <translation>Auslastung</translation>
+        <translation>Kanalauslastung</translation>
     </message>
     <message>
         <source>The share of time in which the channel is busy, as the access point announces it.</source>
@@ -509,7 +509,7 @@
     </message>
     <message>
         <source>&lt;Hidden Network&gt;</source>
-        <translation>&lt;Verborgenes Netzwerk&gt;</translation>
+        <translation>&lt;Verborgen&gt;</translation>
     </message>
     <message>
         <source>Ad-Hoc</source>
@@ -1260,7 +1260,7 @@ a, b &amp; c: Netzwerke, die a oder b sind, und c</translation>
         <translation>&amp;Mehr Zeit anzeigen</translation>
     </message>
     <message>
-        <source>Show &amp;Less Time</source>
+        <source>Show L&amp;ess Time</source>
         <translation>&amp;Weniger Zeit anzeigen</translation>
     </message>
     <message>
@@ -1272,7 +1272,7 @@ a, b &amp; c: Netzwerke, die a oder b sind, und c</translation>
         <translation>Für Informationselemente ein Netzwerk auswählen</translation>
     </message>
     <message>
-        <source>Details &amp;Chart</source>
+        <source>Details C&amp;hart</source>
         <translation>Detail&amp;diagramm</translation>
     </message>
     <message>
@@ -1440,7 +1440,7 @@ a, b &amp; c: Netzwerke, die a oder b sind, und c</translation>
         <translation>Anmerkung &amp;bearbeiten</translation>
     </message>
     <message>
-        <source>&amp;Preferences...</source>
+        <source>Pr&amp;eferences...</source>
         <translation>Ein&amp;stellungen...</translation>
     </message>
     <message>
@@ -1508,7 +1508,7 @@ a, b &amp; c: Netzwerke, die a oder b sind, und c</translation>
         <translation>Schrift &amp;größer</translation>
     </message>
     <message>
-        <source>Make Text S&amp;maller</source>
+        <source>Make Text Smalle&amp;r</source>
         <translation>Schrift &amp;kleiner</translation>
     </message>
     <message>

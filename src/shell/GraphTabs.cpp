@@ -46,7 +46,7 @@ GraphTabs::GraphTabs(const Clock& clock, QWidget* parent)
     , m_pages(new QStackedWidget)
     , m_tabItems(new QActionGroup(this))
     , m_moreTime(new QAction(localized("Show &More Time"), this))
-    , m_lessTime(new QAction(localized("Show &Less Time"), this))
+    , m_lessTime(new QAction(localized("Show L&ess Time"), this))
     , m_networkDetails(new NetworkDetailsPane(clock))
     , m_signalStrengthView(new TSSignalStrengthView(clock))
     , m_spectrumView(new TSSpectrumView(clock))
@@ -188,7 +188,7 @@ void GraphTabs::addViewItems(QMenu& menu)
 {
     menu.addActions(m_tabItems->actions());
     menu.addSeparator();
-    menu.addMenu(localized("Details &Chart"))
+    menu.addMenu(localized("Details C&hart"))
         ->addActions(m_networkDetails->metricItems().actions());
     menu.addAction(m_moreTime);
     menu.addAction(m_lessTime);

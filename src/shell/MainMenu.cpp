@@ -134,7 +134,7 @@ void MainMenu::makeEditMenu()
     connect(&edit, &QMenu::aboutToHide, editNote, [editNote] { editNote->setEnabled(true); });
     edit.addSeparator();
     QAction* preferences =
-        edit.addAction(localized("&Preferences..."), this, &MainMenu::preferencesRequested);
+        edit.addAction(localized("Pr&eferences..."), this, &MainMenu::preferencesRequested);
     preferences->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Comma));
     preferences->setMenuRole(QAction::PreferencesRole);
 }
@@ -270,7 +270,7 @@ void MainMenu::makeTextItems(QMenu& view)
                                      [this] { Q_EMIT makeTextRequested(kTextStep); });
     bigger->setShortcuts(
         {QKeySequence(Qt::CTRL | Qt::Key_Plus), QKeySequence(Qt::CTRL | Qt::Key_Equal)});
-    QAction* smaller = view.addAction(localized("Make Text S&maller"), this,
+    QAction* smaller = view.addAction(localized("Make Text Smalle&r"), this,
                                       [this] { Q_EMIT makeTextRequested(-kTextStep); });
     smaller->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Minus));
 }

@@ -27,6 +27,7 @@ constexpr int kRoomBesideContents = 17; // pixels, of a column that is fitted to
 constexpr double kWidthFont = 11;
 constexpr double kDefaultWidth = 80; // of a column that the registry leaves to the table
 constexpr char kLongestTime[] = "2029/09/29 09:59:59 PM";
+constexpr char kLongestRate[] = "6933.3 ";
 constexpr int kFirstColumn = 1; // behind the marker
 
 std::span<const Column> columns()
@@ -47,6 +48,17 @@ int indexOf(const Column& column)
 const Column& annotationsColumn()
 {
     return *columnWithIdentifier(u"ANNOTATIONS");
+}
+
+/// A text that is as wide as any of the column can be, where it is known beforehand.
+QString longestText(const Column& column)
+{
+    if (column.identifier.endsWith(QLatin1String("SEEN")))
+        return QString::fromLatin1(kLongestTime);
+    if (column.identifier == QLatin1String("MIN_RATE") ||
+        column.identifier == QLatin1String("MAX_RATE"))
+        return QLatin1String(kLongestRate) + localized("Mbps");
+    return {};
 }
 
 } // namespace
@@ -107,7 +119,7 @@ void TSNetworksView::setDefaultLayout()
     showSortIndicator();
 }
 
-/// In pixels: as the registry says, but wide enough for the title, and for a time.
+/// In pixels: as the registry says, but wide enough for the title, for a time and for a rate.
 int TSNetworksView::defaultWidth(const Column& column) const
 {
     if (column.cell == CellKind::kMarker)
@@ -115,8 +127,7 @@ int TSNetworksView::defaultWidth(const Column& column) const
     const double scale = QFontInfo(font()).pointSizeF() / kWidthFont;
     const double width = scale * (column.width > 0 ? column.width : kDefaultWidth);
     const int title = header()->sectionSizeHint(indexOf(column));
-    const bool isTime = column.identifier.endsWith(QLatin1String("SEEN"));
-    const int text = isTime ? fontMetrics().horizontalAdvance(QLatin1String(kLongestTime)) : 0;
+    const int text = fontMetrics().horizontalAdvance(longestText(column));
     return std::max({static_cast<int>(std::ceil(width)), title, text + kRoomBesideContents});
 }
 

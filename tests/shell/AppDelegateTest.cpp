@@ -687,7 +687,7 @@ TEST_F(AppDelegateTest, TextGrowsAndShrinksWithinBounds)
         action("Make Text &Bigger").trigger();
     EXPECT_THAT(sizes(), ElementsAre(18, 18, 18));
     for (int i = 0; i < 12; ++i)
-        action("Make Text S&maller").trigger();
+        action("Make Text Smalle&r").trigger();
     EXPECT_THAT(sizes(), ElementsAre(9, 9, 9));
 }
 
@@ -697,7 +697,7 @@ TEST_F(AppDelegateTest, ThePreferencesAreLive)
     engineScans({named("0:0:0:0:0:1", "Attic")});
     tick();
     EXPECT_TRUE(cell(0, u"RSSI").endsWith(u'%'));
-    action("&Preferences...").trigger();
+    action("Pr&eferences...").trigger();
     auto* preferences = window().findChild<MASPreferencesWindowController*>();
     ASSERT_NE(preferences, nullptr);
     EXPECT_TRUE(preferences->isVisible());

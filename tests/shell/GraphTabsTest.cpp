@@ -134,10 +134,10 @@ TEST_F(GraphTabsTest, KeepTheRangesOfTimeWithinTheirLimits)
             tabs.selectGraph(tab.index);
             EXPECT_EQ(tab.chart.timescale(), c.used);
             EXPECT_EQ(item("Show &More Time").isEnabled(), c.canGrow);
-            EXPECT_EQ(item("Show &Less Time").isEnabled(), c.canShrink);
+            EXPECT_EQ(item("Show L&ess Time").isEnabled(), c.canShrink);
         }
         tab.chart.setTimescale(3600);
-        item("Show &Less Time").trigger();
+        item("Show L&ess Time").trigger();
         EXPECT_EQ(tab.chart.timescale(), 2880);
         item("Show &More Time").trigger();
         tabs.saveDefaults();

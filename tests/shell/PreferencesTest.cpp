@@ -125,7 +125,7 @@ TEST_F(PreferencesTest, ColumnsTellWhatAColumnIsAbout)
     list->setCurrentIndex(list->model()->index(0, 0));
     EXPECT_NO_THROW(widget<QLabel>(pane, static_cast<ColumnVisibilityModel*>(list->model())
                                              ->columnAt(list->currentIndex())
-                                             .description));
+                                             .description.text()));
 }
 
 TEST_F(PreferencesTest, AdvancedTurnsTheSuppressionOfChecksRound)
