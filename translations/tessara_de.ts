@@ -1723,5 +1723,9 @@ a, b &amp; c: Netzwerke, die a oder b sind, und c</translation>
         <source>Collapse All</source>
         <translation>Alle zuklappen</translation>
     </message>
+    <message>
+        <source>en</source>
+        <translation>de</translation>
+    </message>
 </context>
 </TS>

@@ -3,6 +3,7 @@
 #include "foundation/Localized.h"
 #include "shell/HelpPage.h"
 #include "shell/RichTextReader.h"
+#include "shell/Translations.h"
 
 #include <QDialog>
 #include <QDialogButtonBox>
@@ -68,7 +69,7 @@ void showAbout(QWidget& window)
     layout->addWidget(icon);
     layout->addWidget(name);
     layout->addWidget(makeLabel(localized("Version %1").arg(QLatin1String(TESSARA_VERSION))));
-    layout->addWidget(makeLabel(QString::fromUtf8(resource(":/Credits.html"))));
+    layout->addWidget(makeLabel(QString::fromUtf8(translatedPage(QStringLiteral("Credits.html")))));
     show(panel, *layout, QDialogButtonBox::Close);
 }
 

@@ -1,6 +1,7 @@
 #include "shell/HelpPage.h"
 
-#include <QFile>
+#include "shell/Translations.h"
+
 #include <QFontMetrics>
 #include <QKeyEvent>
 #include <QTextDocument>
@@ -27,13 +28,10 @@ HelpPage::HelpPage(const QString& name, const QString& title, QWidget* parent)
     setFrameShape(QFrame::NoFrame);
     document()->setDocumentMargin(20);
 
-    QFile page(QStringLiteral(":/help/%1.md").arg(name));
-    if (page.open(QIODevice::ReadOnly)) {
-        QTextDocument text;
-        text.setMarkdown(QString::fromUtf8(page.readAll()));
-        document()->setDefaultStyleSheet(kStyle);
-        setHtml(text.toHtml());
-    }
+    QTextDocument text;
+    text.setMarkdown(QString::fromUtf8(translatedPage(name + QLatin1String(".md"))));
+    document()->setDefaultStyleSheet(kStyle);
+    setHtml(text.toHtml());
     const QFontMetrics metrics(font());
     resize(metrics.averageCharWidth() * kLineLength, metrics.height() * 38);
 }

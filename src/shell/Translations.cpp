@@ -1,6 +1,9 @@
 #include "shell/Translations.h"
 
+#include "foundation/Localized.h"
+
 #include <QCoreApplication>
+#include <QFile>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QTranslator>
@@ -33,6 +36,17 @@ void installTranslations(const QStringList& languages)
             return;
         }
     }
+}
+
+QByteArray translatedPage(const QString& name)
+{
+    // A translation of the word tells the folder of its own pages.
+    for (const QString& folder : {localized("en"), QStringLiteral("en")}) {
+        QFile page(QStringLiteral(":/pages/%1/%2").arg(folder, name));
+        if (page.open(QIODevice::ReadOnly))
+            return page.readAll();
+    }
+    return {};
 }
 
 } // namespace tessara

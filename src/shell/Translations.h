@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QStringList>
 
 namespace tessara {
@@ -9,5 +10,9 @@ namespace tessara {
 /// them in that language.
 /// @param languages BCP 47 tags such as "de-DE", the preferred one first
 void installTranslations(const QStringList& languages);
+
+/// A page that comes with the program, such as "filter.md", in the language of the session, or
+/// else in English.
+QByteArray translatedPage(const QString& name);
 
 } // namespace tessara

@@ -44,7 +44,7 @@ public:
             [this] { toggleColumn(); },
             [this] { writeNote(); },
             [this] { action("Make Text &Bigger").trigger(); },
-            [this] { action("Make Text S&maller").trigger(); },
+            [this] { action("Make Text Smalle&r").trigger(); },
             [this] { window().resize(800 + number(800), 500 + number(500)); },
             [this] { moveOverChart(); },
             [this] { expandElements(); },

@@ -95,6 +95,8 @@ TEST_F(TranslationsTest, TheFirstOfTheUsersLanguagesThatIsKnownIsSpoken)
         installTranslations(languages);
         EXPECT_EQ(localized("Channel"), text) << languages.join(u' ').toStdString();
         EXPECT_EQ(localized(EnglishText()), QString()) << "not the head of the translation";
+        EXPECT_TRUE(translatedPage(QStringLiteral("filter.md"))
+                        .startsWith(text == german ? "# Der Filter" : "# The filter"));
         forget();
     }
 }
