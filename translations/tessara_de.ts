@@ -1077,7 +1077,7 @@
     </message>
     <message>
         <source>For more information visit %1.</source>
-        <translation>Weitere Informationen: %1.</translation>
+        <translation>Weitere Informationen: %1</translation>
     </message>
     <message>
         <source>Tessara Support</source>
