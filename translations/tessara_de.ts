@@ -160,7 +160,7 @@
         <translation>BSSID</translation>
     </message>
     <message>
-        <source>The address of the access point's radio, the identifier of the basic service set.</source>
+        <source>The address of the access point&apos;s radio, the identifier of the basic service set.</source>
         <translation>Die Adresse des Funkmoduls des Access Points, die Kennung des Basic Service Set.</translation>
     </message>
     <message>
@@ -560,7 +560,7 @@
         <translation>Die Suche nach Aktualisierungen ist fehlgeschlagen.</translation>
     </message>
     <message>
-        <source>The server's answer is not the number of a version.</source>
+        <source>The server&apos;s answer is not the number of a version.</source>
         <translation>Die Antwort des Servers ist keine Versionsnummer.</translation>
     </message>
     <message>
@@ -568,7 +568,7 @@
         <translation>Eine neue Version von Tessara ist verfügbar!</translation>
     </message>
     <message>
-        <source>Version %1 is available; you have version %2. It comes the way this one came, with the system's packages for instance.</source>
+        <source>Version %1 is available; you have version %2. It comes the way this one came, with the system&apos;s packages for instance.</source>
         <translation>Version %1 ist verfügbar; installiert ist Version %2. Die neue Version kommt auf demselben Weg wie diese, zum Beispiel mit den Paketen des Systems.</translation>
     </message>
     <message>
@@ -664,15 +664,15 @@
         <translation>die Property-Liste ist zu lang</translation>
     </message>
     <message>
-        <source>"%1" holds something that is no network</source>
+        <source>&quot;%1&quot; holds something that is no network</source>
         <translation>„%1“ enthält etwas, das kein Netzwerk ist</translation>
     </message>
     <message>
-        <source>"channelNumber" is no number of a channel</source>
+        <source>&quot;channelNumber&quot; is no number of a channel</source>
         <translation>„channelNumber“ ist keine Kanalnummer</translation>
     </message>
     <message>
-        <source>"%1" holds something that is no sample</source>
+        <source>&quot;%1&quot; holds something that is no sample</source>
         <translation>„%1“ enthält etwas, das keine Messung ist</translation>
     </message>
     <message>
@@ -680,7 +680,7 @@
         <translation>Aktuelle Ergebnisse speichern?</translation>
     </message>
     <message>
-        <source>Any data will be lost if you don't save it.</source>
+        <source>Any data will be lost if you don&apos;t save it.</source>
         <translation>Nicht gespeicherte Daten gehen verloren.</translation>
     </message>
     <message>
@@ -692,7 +692,7 @@
         <translation>Abbrechen</translation>
     </message>
     <message>
-        <source>Don't Save</source>
+        <source>Don&apos;t Save</source>
         <translation>Nicht speichern</translation>
     </message>
     <message>
@@ -700,15 +700,15 @@
         <translation>Speichern</translation>
     </message>
     <message>
-        <source>The file "%1" could not be saved.</source>
+        <source>The file &quot;%1&quot; could not be saved.</source>
         <translation>Die Datei „%1“ konnte nicht gespeichert werden.</translation>
     </message>
     <message>
-        <source>The file "%1" could not be read.</source>
+        <source>The file &quot;%1&quot; could not be read.</source>
         <translation>Die Datei „%1“ konnte nicht gelesen werden.</translation>
     </message>
     <message>
-        <source>This file's format is not supported in this version of Tessara.</source>
+        <source>This file&apos;s format is not supported in this version of Tessara.</source>
         <translation>Das Format dieser Datei wird von dieser Version von Tessara nicht unterstützt.</translation>
     </message>
     <message>
@@ -992,11 +992,11 @@
         <translation>Standardeingabe</translation>
     </message>
     <message>
-        <source>"time" is not a number of seconds since 1970</source>
+        <source>&quot;time&quot; is not a number of seconds since 1970</source>
         <translation>„time“ ist keine Anzahl von Sekunden seit 1970</translation>
     </message>
     <message>
-        <source>"networks" is not an array</source>
+        <source>&quot;networks&quot; is not an array</source>
         <translation>„networks“ ist kein Array</translation>
     </message>
     <message>
@@ -1004,7 +1004,7 @@
         <translation>Netzwerk %1 ist kein Objekt</translation>
     </message>
     <message>
-        <source>network %1: "%2" has a value of the wrong kind</source>
+        <source>network %1: &quot;%2&quot; has a value of the wrong kind</source>
         <translation>Netzwerk %1: „%2“ hat einen Wert der falschen Art</translation>
     </message>
     <message>
@@ -1148,13 +1148,13 @@
         <translation>Filter</translation>
     </message>
     <message>
-        <source>home: networks with "home" in their name, in a note or in their maker's name
-"Home": networks of exactly this name
+        <source>home: networks with &quot;home&quot; in their name, in a note or in their maker&apos;s name
+&quot;Home&quot;: networks of exactly this name
 5GHz, 80MHz, 36, ac, wpa2, DE: band, width, channel, mode, security, country
 &gt;-70, &gt;=50%: the last signal; !home: all but these
 a, b &amp; c: networks that are a or b, and c</source>
         <translation>heim: Netzwerke mit „heim“ im Namen, in einer Anmerkung oder im Namen des Herstellers
-"Heim": Netzwerke mit genau diesem Namen
+&quot;Heim&quot;: Netzwerke mit genau diesem Namen
 5GHz, 80MHz, 36, ac, wpa2, DE: Band, Breite, Kanal, Modus, Sicherheit, Land
 &gt;-70, &gt;=50%: das letzte Signal; !heim: alle außer diesen
 a, b &amp; c: Netzwerke, die a oder b sind, und c</translation>
