@@ -1208,8 +1208,24 @@ a, b &amp; c: Netzwerke, die a oder b sind, und c</translation>
         <translation>2 Stunden</translation>
     </message>
     <message>
+        <source>Daily</source>
+        <translation>Täglich</translation>
+    </message>
+    <message>
+        <source>Weekly</source>
+        <translation>Wöchentlich</translation>
+    </message>
+    <message>
+        <source>Monthly</source>
+        <translation>Monatlich</translation>
+    </message>
+    <message>
         <source>&amp;Remove networks not seen for</source>
         <translation>&amp;Netzwerke entfernen, nicht gesehen seit</translation>
+    </message>
+    <message>
+        <source>Check for &amp;updates of Tessara</source>
+        <translation>Nach &amp;Aktualisierungen von Tessara suchen</translation>
     </message>
     <message>
         <source>Networks with a weaker signal are not listed</source>
@@ -1222,6 +1238,10 @@ a, b &amp; c: Netzwerke, die a oder b sind, und c</translation>
     <message>
         <source>Time until a network is removed</source>
         <translation>Zeit, bis ein Netzwerk entfernt wird</translation>
+    </message>
+    <message>
+        <source>Time between checks for updates</source>
+        <translation>Zeit zwischen den Suchen nach Aktualisierungen</translation>
     </message>
     <message>
         <source>&amp;Sensitivity:</source>
@@ -1432,7 +1452,7 @@ a, b &amp; c: Netzwerke, die a oder b sind, und c</translation>
         <translation>Anmerkungen &amp;importieren...</translation>
     </message>
     <message>
-        <source>&amp;Edit</source>
+        <source>E&amp;dit</source>
         <translation>&amp;Bearbeiten</translation>
     </message>
     <message>
@@ -1484,8 +1504,16 @@ a, b &amp; c: Netzwerke, die a oder b sind, und c</translation>
         <translation>&amp;Seitenleiste</translation>
     </message>
     <message>
+        <source>Show or hide the side view</source>
+        <translation>Seitenleiste ein- oder ausblenden</translation>
+    </message>
+    <message>
         <source>&amp;Lower Half</source>
         <translation>&amp;Untere Hälfte</translation>
+    </message>
+    <message>
+        <source>Show or hide details and charts</source>
+        <translation>Details und Diagramme ein- oder ausblenden</translation>
     </message>
     <message>
         <source>&amp;Columns</source>
@@ -1580,8 +1608,8 @@ a, b &amp; c: Netzwerke, die a oder b sind, und c</translation>
         <translation>Signal-Rausch-Abstand</translation>
     </message>
     <message>
-        <source>&amp;Show:</source>
-        <translation>&amp;Zeigen:</translation>
+        <source>Show:</source>
+        <translation>Zeigen:</translation>
     </message>
     <message>
         <source>What the chart shows of the selected network</source>

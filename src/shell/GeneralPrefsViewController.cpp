@@ -30,7 +30,8 @@ constexpr Choice kUnits[] = {{0, "Percent"_en}, {1, "dBm"_en}};
 constexpr Choice kTimes[] = {{1, "1 minute"_en},   {2, "2 minutes"_en}, {3, "5 minutes"_en},
                              {4, "30 minutes"_en}, {5, "1 hour"_en},    {6, "2 hours"_en}};
 
-constexpr Choice kUpdateIntervals[] = {{86400, "Daily"}, {604800, "Weekly"}, {2592000, "Monthly"}};
+constexpr Choice kUpdateIntervals[] = {
+    {86400, "Daily"_en}, {604800, "Weekly"_en}, {2592000, "Monthly"_en}};
 
 QComboBox* makePopUp(std::span<const Choice> choices)
 {
