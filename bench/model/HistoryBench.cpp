@@ -1,8 +1,7 @@
 #include "model/TSNetwork.h"
+#include "support/HeapInUse.h"
 
 #include <benchmark/benchmark.h>
-
-#include <malloc.h>
 
 using namespace tessara;
 
@@ -16,13 +15,6 @@ TSNetwork freshNetwork()
 }
 
 const TSDataPoint kSample(-60, -90, 7, 40, 1'700'000'000.0);
-
-/// Bytes of heap in use.
-double heapInUse()
-{
-    const struct mallinfo2 info = mallinfo2();
-    return static_cast<double>(info.uordblks + info.hblkhd);
-}
 
 /// What a sample costs on the heap, in a history of this length.
 void bytesPerStoredSample(benchmark::State& state)

@@ -1,12 +1,11 @@
 #include "persistence/AnnotationsCSV.h"
 #include "persistence/CSVExport.h"
 #include "persistence/PropertyList.h"
+#include "support/HeapInUse.h"
 
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
-
-#include <malloc.h>
 
 using namespace tessara;
 
@@ -23,13 +22,6 @@ QByteArray notes(std::int64_t megabytes)
         lines += ",\"roof, east side, pole " + QByteArray::number(number) + "\"\n";
     }
     return lines;
-}
-
-/// Bytes of heap in use.
-double heapInUse()
-{
-    const struct mallinfo2 info = mallinfo2();
-    return static_cast<double>(info.uordblks + info.hblkhd);
 }
 
 /// Reading a file of notes into an empty store.

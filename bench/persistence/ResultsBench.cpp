@@ -4,6 +4,7 @@
 // "records_MB" is the heap that the records take, "above_MB" all that is taken above that at the
 // greatest.
 #include "persistence/ResultsFile.h"
+#include "support/HeapInUse.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -11,7 +12,6 @@
 #include <benchmark/benchmark.h>
 #include <plist/plist.h>
 
-#include <malloc.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -29,13 +29,6 @@ constexpr int kSamples = 10000;
 constexpr double kStart = 1'700'000'000;
 
 const WorkProgress kGoOn = [](double) { return true; };
-
-/// Bytes of heap in use.
-double heapInUse()
-{
-    const struct mallinfo2 info = mallinfo2();
-    return static_cast<double>(info.uordblks + info.hblkhd);
-}
 
 /// Bytes of memory of this process at its greatest.
 double peakMemory()

@@ -2,13 +2,12 @@
 #include "persistence/VendorIndex.h"
 #include "persistence/VendorLookup.h"
 #include "persistence/VendorsArchive.h"
+#include "support/HeapInUse.h"
 
 #include <QFile>
 #include <QTemporaryDir>
 
 #include <benchmark/benchmark.h>
-
-#include <malloc.h>
 
 using namespace tessara;
 
@@ -31,13 +30,6 @@ VendorTable table()
 {
     QString error;
     return readVendorDatabase(databasePath(), {}, error).value_or(VendorTable());
-}
-
-/// Bytes of heap in use.
-double heapInUse()
-{
-    const struct mallinfo2 info = mallinfo2();
-    return static_cast<double>(info.uordblks + info.hblkhd);
 }
 
 void load(benchmark::State& state)

@@ -4,6 +4,7 @@
 #include "shell/GraphTabs.h"
 #include "shell/MainMenu.h"
 #include "shell/RunningApplication.h"
+#include "support/HeapInUse.h"
 
 #include <QApplication>
 #include <QFileDialog>
@@ -11,7 +12,6 @@
 
 #include <benchmark/benchmark.h>
 
-#include <malloc.h>
 #include <time.h>
 
 #include <algorithm>
@@ -35,13 +35,6 @@ private:
     }
     double m_start = now();
 };
-
-/// Bytes of heap in use.
-double heapInUse()
-{
-    const struct mallinfo2 info = mallinfo2();
-    return static_cast<double>(info.uordblks + info.hblkhd);
-}
 
 /// The application at 1100 by 735, where nobody is asked.
 class Application : public RunningApplication {

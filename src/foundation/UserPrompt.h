@@ -1,5 +1,7 @@
 #pragma once
 
+#include "foundation/Localized.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -43,6 +45,15 @@ public:
 
     /// Shows an alert and returns at once; `answer` is called later, on the main thread.
     virtual AlertId beginAlert(const TSAlert& alert, Answer answer) = 0;
+    /// An alert with nothing to decide.
+    void inform(const QString& messageText, const QString& informativeText)
+    {
+        beginAlert({.messageText = messageText,
+                    .informativeText = informativeText,
+                    .buttons = {localized("OK")},
+                    .style = TSAlert::Style::kInformational},
+                   [](int) {});
+    }
     /// Takes an alert away without an answer; nothing happens if it is gone already.
     virtual void endAlert(AlertId alert) = 0;
 

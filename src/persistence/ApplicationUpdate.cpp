@@ -65,7 +65,7 @@ void ApplicationUpdate::didFinish(bool interactive)
     m_check.release()->deleteLater(); // this is its signal
     if (!error.isEmpty()) {
         if (interactive)
-            inform(localized("Unable to check for updates."), error);
+            m_prompt.inform(localized("Unable to check for updates."), error);
         return;
     }
     Defaults::standard().setValue(
@@ -79,26 +79,19 @@ void ApplicationUpdate::didFinish(bool interactive)
     if (!interactive && !(isVersion && newest > own))
         return;
     if (!isVersion) {
-        inform(localized("Unable to check for updates."),
-               localized("The server's answer is not the number of a version."));
+        m_prompt.inform(localized("Unable to check for updates."),
+                        localized("The server's answer is not the number of a version."));
     } else if (newest > own) {
-        inform(localized("A new version of Tessara is available!"),
-               localized("Version %1 is available; you have version %2. It comes the way this "
-                         "one came, with the system's packages for instance.")
-                   .arg(newest.toString(), own.toString()));
+        m_prompt.inform(
+            localized("A new version of Tessara is available!"),
+            localized("Version %1 is available; you have version %2. It comes the way this "
+                      "one came, with the system's packages for instance.")
+                .arg(newest.toString(), own.toString()));
     } else {
-        inform(localized("Tessara is up-to-date!"),
-               localized("Version %1 is the newest version available.").arg(own.toString()));
+        m_prompt.inform(
+            localized("Tessara is up-to-date!"),
+            localized("Version %1 is the newest version available.").arg(own.toString()));
     }
-}
-
-void ApplicationUpdate::inform(const QString& messageText, const QString& informativeText)
-{
-    m_prompt.beginAlert({.messageText = messageText,
-                         .informativeText = informativeText,
-                         .buttons = {localized("OK")},
-                         .style = TSAlert::Style::kInformational},
-                        [](int) {});
 }
 
 } // namespace tessara

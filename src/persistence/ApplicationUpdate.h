@@ -44,7 +44,6 @@ public:
 private:
     void check(bool interactive);
     void didFinish(bool interactive);
-    void inform(const QString& messageText, const QString& informativeText);
 
     UserPrompt& m_prompt;
     Clock& m_clock;

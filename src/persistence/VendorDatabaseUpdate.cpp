@@ -117,7 +117,7 @@ void VendorDatabaseUpdate::checkRemoteDatabaseDidFail(const QString& reason, boo
 {
     endProgress();
     if (interactive)
-        inform(localized("Unable to check for updates."), reason);
+        m_prompt.inform(localized("Unable to check for updates."), reason);
 }
 
 void VendorDatabaseUpdate::checkRemoteDatabaseDidFinish(bool hasUpdate, bool interactive)
@@ -125,8 +125,8 @@ void VendorDatabaseUpdate::checkRemoteDatabaseDidFinish(bool hasUpdate, bool int
     endProgress();
     if (!hasUpdate) {
         if (interactive)
-            inform(localized("The database is up-to-date!"),
-                   localized("The existing database is the newest version available."));
+            m_prompt.inform(localized("The database is up-to-date!"),
+                            localized("The existing database is the newest version available."));
         return;
     }
     if (Defaults::standard().boolForKey(DefaultKey::AutoUpdateVendorsDatabase)) {
@@ -192,7 +192,7 @@ void VendorDatabaseUpdate::downloadDidEnd(const QString& error)
     m_downloaded.reset();
     qCWarning(lcPersistence).noquote()
         << QStringLiteral("Download failed: %1 (%2)").arg(reason, m_source.location.toString());
-    inform(localized("Unable to download database update."), reason);
+    m_prompt.inform(localized("Unable to download database update."), reason);
 }
 
 void VendorDatabaseUpdate::databaseDidExpand(bool installed)
@@ -207,7 +207,7 @@ void VendorDatabaseUpdate::databaseDidExpand(bool installed)
     const QString text = localized("The vendors database was updated successfully.");
     if (!Defaults::standard().boolForKey(DefaultKey::AutoUpdateVendorsDatabase) ||
         !m_prompt.deliverNotification(title, text))
-        inform(title, text);
+        m_prompt.inform(title, text);
     Q_EMIT databaseDidChange();
 }
 
@@ -218,15 +218,6 @@ void VendorDatabaseUpdate::endProgress()
     if (m_progress)
         m_prompt.endProgress(*m_progress);
     m_progress.reset();
-}
-
-void VendorDatabaseUpdate::inform(const QString& messageText, const QString& informativeText)
-{
-    m_prompt.beginAlert({.messageText = messageText,
-                         .informativeText = informativeText,
-                         .buttons = {localized("OK")},
-                         .style = TSAlert::Style::kInformational},
-                        [](int) {});
 }
 
 } // namespace tessara

@@ -56,7 +56,6 @@ private:
     void databaseDidExpand(bool installed);
 
     void endProgress();
-    void inform(const QString& messageText, const QString& informativeText);
 
     TSVendorDatabaseHelper& m_database;
     UserPrompt& m_prompt;

@@ -10,12 +10,6 @@
 
 namespace tessara {
 
-namespace {
-
-constexpr int kMargin = 18; // pixels
-
-} // namespace
-
 AdvancedPrefsViewController::AdvancedPrefsViewController(QWidget* parent)
     : PreferencesPane(parent)
     , m_hideChannelGraphs(new QCheckBox(localized("Hide the &graph of a band without networks")))

@@ -561,8 +561,7 @@ void AppDelegate::clearSideViewSelection()
 /// The spectrum tells of a network what the list has columns for.
 void AppDelegate::userDidToggleColumnState(const Column& column)
 {
-    const auto columns = m_window.networksView().visibleColumns();
-    const bool isShown = std::ranges::count(columns, &column) > 0;
+    const bool isShown = m_window.networksView().isColumnShown(column);
     TSSpectrumView& spectrum = m_window.graphTabs().spectrumView();
     if (column.identifier == QLatin1String("ANNOTATIONS"))
         spectrum.setDisplayAnnotations(isShown);

@@ -25,11 +25,6 @@ const Column& ColumnVisibilityModel::columnAt(const QModelIndex& index) const
     return *m_columns[static_cast<std::size_t>(index.row())];
 }
 
-bool ColumnVisibilityModel::isShown(const Column& column) const
-{
-    return std::ranges::count(m_networksView.visibleColumns(), &column) > 0;
-}
-
 void ColumnVisibilityModel::columnDidChangeHiddenState()
 {
     Q_EMIT dataChanged(index(0, kShowColumn), index(rowCount() - 1, kShowColumn),
@@ -52,7 +47,7 @@ QVariant ColumnVisibilityModel::data(const QModelIndex& index, int role) const
         return {};
     const Column& column = columnAt(index);
     if (index.column() == kShowColumn && role == Qt::CheckStateRole)
-        return isShown(column) ? Qt::Checked : Qt::Unchecked;
+        return m_networksView.isColumnShown(column) ? Qt::Checked : Qt::Unchecked;
     if (index.column() == kNameColumn && role == Qt::DisplayRole)
         return localized(column.title);
     if (role == Qt::AccessibleTextRole)
@@ -90,7 +85,7 @@ void ColumnVisibilityModel::sort(int column, Qt::SortOrder order)
 {
     const auto comesBefore = [&](const Column* a, const Column* b) {
         if (column == kShowColumn)
-            return isShown(*a) > isShown(*b);
+            return m_networksView.isColumnShown(*a) > m_networksView.isColumnShown(*b);
         return localizedStandardCompare(localized(a->title), localized(b->title)) < 0;
     };
     Q_EMIT layoutAboutToBeChanged();

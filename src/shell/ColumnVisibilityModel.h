@@ -30,7 +30,6 @@ public:
     void sort(int column, Qt::SortOrder order) override;
 
 private:
-    bool isShown(const Column& column) const;
     void columnDidChangeHiddenState();
 
     TSNetworksView& m_networksView;

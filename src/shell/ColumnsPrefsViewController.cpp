@@ -16,7 +16,6 @@ namespace tessara {
 
 namespace {
 
-constexpr int kMargin = 18; // pixels
 constexpr QSize kTableSize(380, 300);
 constexpr int kDescriptionLines = 3;
 

@@ -20,7 +20,6 @@ namespace {
 constexpr int kLowestSensitivity = 30;
 constexpr int kHighestSensitivity = 100;
 constexpr int kSensitivityStep = 5;
-constexpr int kMargin = 18; // pixels
 
 struct Choice {
     qint64 tag; ///< the value of the setting

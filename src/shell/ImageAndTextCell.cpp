@@ -28,7 +28,6 @@ struct Look {
 Look lookOf(const TSSideViewItem& item, int column, const QPalette& palette)
 {
     using Theme = TSThemeHelper;
-    const bool isDark = palette.color(QPalette::Base).lightnessF() < 0.5F;
     const bool isDetail = column == SideViewModel::kDetailColumn;
     if (item.identifier == QLatin1String("group"))
         return {.textColor = dimmed(palette)};
@@ -43,7 +42,8 @@ Look lookOf(const TSSideViewItem& item, int column, const QPalette& palette)
         return look;
     look.leftMargin = kItemMargin;
     look.image = Glyph::kDot;
-    look.imageColor = isDark ? QColor::fromRgbF(1, 0.5F, 0) : QColor::fromRgbF(0.98F, 0.76F, 0.1F);
+    look.imageColor =
+        isDark(palette) ? QColor::fromRgbF(1, 0.5F, 0) : QColor::fromRgbF(0.98F, 0.76F, 0.1F);
     return look;
 }
 

@@ -66,7 +66,6 @@ std::unique_ptr<Row> rowOf(const TSInfoElement& element)
     row->name = QString::fromStdString(element.ieName());
     row->elementID = element.ieID();
     row->length = element.ieLength();
-    row->dump = QString::fromStdString(element.ieDump());
     for (const Field& field : element.fields())
         append(*row, rowOf(field, *row));
     return row;
@@ -136,10 +135,11 @@ void InfoElementsModel::setElements(const QByteArray& run)
     if (run == m_run)
         return;
     m_run = run;
+    m_decoded = informationElements(run);
     Rows fresh;
-    for (const TSInfoElement& element : informationElements(run)) {
-        fresh.push_back(rowOf(element));
-        fresh.back()->place = fresh.size();
+    for (std::size_t place = 0; place < m_decoded.size(); ++place) {
+        fresh.push_back(rowOf(m_decoded[place]));
+        fresh.back()->place = place;
     }
     sortRows(fresh);
     if (haveSameShape(m_elements, fresh)) {
@@ -159,7 +159,6 @@ void InfoElementsModel::takeTexts(Rows& shown, Rows& fresh, const QModelIndex& p
         Row& now = *fresh[i];
         const QModelIndex first = index(static_cast<int>(i), 0, parent);
         takeTexts(row.children, now.children, first);
-        row.dump = std::move(now.dump);
         row.place = now.place;
         if (row.value == now.value && row.notes == now.notes && row.length == now.length)
             continue;
@@ -204,19 +203,24 @@ const InfoElementRow& InfoElementsModel::rowAt(const QModelIndex& index)
     return *static_cast<const Row*>(index.internalPointer());
 }
 
-const InfoElementRow& InfoElementsModel::elementOf(const QModelIndex& index)
+QString InfoElementsModel::dumpOf(const InfoElementRow& element) const
+{
+    return QString::fromStdString(m_decoded[element.place].ieDump());
+}
+
+QString InfoElementsModel::dumpOf(const QModelIndex& index) const
 {
     const Row* row = &rowAt(index);
     while (row->parent)
         row = row->parent;
-    return *row;
+    return dumpOf(*row);
 }
 
 QString InfoElementsModel::dump() const
 {
     QStringList dumps;
     for (const auto& element : m_elements)
-        dumps.append(element->dump);
+        dumps.append(dumpOf(*element));
     return dumps.join(QLatin1String("\n\n"));
 }
 

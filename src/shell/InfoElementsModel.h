@@ -23,7 +23,6 @@ struct InfoElementRow {
     std::uint8_t elementID = 0; ///< of an element
     std::size_t length = 0;     ///< of an element, in bytes
     std::size_t place = 0;      ///< of an element in the beacon
-    QString dump;               ///< of an element, as it is copied
     InfoElementRow* parent = nullptr;
     int row = 0; ///< among the rows of its parent
     std::vector<std::unique_ptr<InfoElementRow>> children;
@@ -64,9 +63,8 @@ public:
     static const InfoElementRow& rowAt(const QModelIndex& index);
     /// The texts of a cell, one behind the other.
     static std::vector<TextPiece> textPieces(const QModelIndex& index);
-    /// The element that a row belongs to.
-    static const InfoElementRow& elementOf(const QModelIndex& index);
-    /// All elements in their order, as they are copied.
+    /// The element that a row belongs to, and all elements in their order, as they are copied.
+    QString dumpOf(const QModelIndex& index) const;
     QString dump() const;
 
     QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
@@ -88,8 +86,11 @@ private:
     void sortRows(Rows& rows) const;
     void takeTexts(Rows& shown, Rows& fresh, const QModelIndex& parent);
 
-    Rows m_elements;
+    QString dumpOf(const InfoElementRow& element) const;
+
     QByteArray m_run;
+    std::vector<TSInfoElement> m_decoded; ///< in the order of the beacon
+    Rows m_elements;
     int m_sortColumn = -1;
     Qt::SortOrder m_sortOrder = Qt::AscendingOrder;
 };

@@ -7,11 +7,15 @@
 
 namespace tessara {
 
+inline bool isDark(const QPalette& palette)
+{
+    return palette.color(QPalette::Base).lightnessF() < 0.5F;
+}
+
 /// A colour meant for text on white, as light as it must be to be read on the palette's ground.
 inline QColor legible(const QColor& color, const QPalette& palette)
 {
-    constexpr float kDark = 0.5F;
-    if (palette.color(QPalette::Base).lightnessF() >= kDark)
+    if (!isDark(palette))
         return color;
     // What was so much darker than the ground is now so much lighter; hue and opacity stay.
     const float lightness = std::clamp(1 - color.lightnessF() * 0.8F, 0.72F, 0.9F);

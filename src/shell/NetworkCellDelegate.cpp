@@ -86,8 +86,8 @@ bool hasFocus(const QStyleOptionViewItem& option)
 /// On light and dark palettes.
 QColor filteredCellColor(const QPalette& palette)
 {
-    const bool isDark = palette.color(QPalette::Base).lightnessF() < 0.5F;
-    return isDark ? withAlpha(Qt::blue, 0.2) : TSThemeHelper::backgroundColorForFilteredCell();
+    return isDark(palette) ? withAlpha(Qt::blue, 0.2)
+                           : TSThemeHelper::backgroundColorForFilteredCell();
 }
 
 RowHighlight highlightOf(const QStyleOptionViewItem& option)

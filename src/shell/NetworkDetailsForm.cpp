@@ -53,6 +53,8 @@ QLabel* makeCaption(const QString& text)
 void setTextColor(QLabel& label, const QColor& color)
 {
     QPalette palette = label.palette();
+    if (palette.color(QPalette::WindowText) == color)
+        return;
     palette.setColor(QPalette::WindowText, color);
     label.setPalette(palette);
 }

@@ -19,6 +19,9 @@ public:
     virtual QIcon toolbarItemImage() const = 0;
 
     virtual void viewWillAppear() = 0;
+
+protected:
+    static constexpr int kMargin = 18; ///< pixels, around what the pane holds
 };
 
 } // namespace tessara

@@ -178,9 +178,9 @@ void TSAdvancedDetailsView::contextMenuEvent(QContextMenuEvent* event)
     menu.addAction(localized("Collapse All Items"), this, [this] { setAllExpanded(false); });
     menu.addSeparator();
     menu.addAction(localized("Copy Element"), this,
-                   [element] {
-                       if (element.isValid())
-                           copyText(InfoElementsModel::rowAt(element).dump);
+                   [this, clicked] {
+                       if (clicked.isValid())
+                           copyText(m_model.dumpOf(clicked));
                    })
         ->setEnabled(isElement);
     menu.addAction(localized("Copy All Elements"), this, [this] { copyText(m_model.dump()); });

@@ -326,9 +326,13 @@ std::vector<const Column*> TSNetworksView::tableColumnIdentifiers() const
 std::vector<const Column*> TSNetworksView::visibleColumns() const
 {
     std::vector<const Column*> visible = tableColumnIdentifiers();
-    std::erase_if(visible,
-                  [this](const Column* column) { return isColumnHidden(indexOf(*column)); });
+    std::erase_if(visible, [this](const Column* column) { return !isColumnShown(*column); });
     return visible;
+}
+
+bool TSNetworksView::isColumnShown(const Column& column) const
+{
+    return !isColumnHidden(indexOf(column));
 }
 
 bool TSNetworksView::canBeHidden(const Column& column)

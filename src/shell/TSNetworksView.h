@@ -43,6 +43,7 @@ public:
     /// All columns in the order of the table, hidden ones too.
     std::vector<const Column*> tableColumnIdentifiers() const;
     std::vector<const Column*> visibleColumns() const;
+    bool isColumnShown(const Column& column) const;
     /// Whether the user may turn a column off.
     static bool canBeHidden(const Column& column);
     void setColumnShown(const Column& column, bool shown);
