@@ -58,8 +58,9 @@ AppDelegate::AppDelegate(WiFiService& wifi, TSVendorDatabaseHelper& vendors,
                       [] { return QGuiApplication::focusWindow() != nullptr; })
     , m_vendorsUpdate(vendors, m_prompt, services.clock)
     , m_applicationUpdate(m_prompt, services.clock)
+    , m_filters(m_window, m_scanCycle)
     , m_exchange(m_window,
-                 {m_scanCycle, m_pipeline, annotations, services.clock,
+                 {m_scanCycle, m_filters.pipeline(), annotations, services.clock,
                   [this] { return m_document.hasUnsavedResults(); }},
                  m_prompt)
 {
@@ -76,13 +77,11 @@ void AppDelegate::connectParts(NotificationCenter& notifications)
     connect(&m_window, &MainWindow::fileRequested, this, &AppDelegate::openFile);
     connect(&m_document, &ResultsDocument::titleDidChange, this, &AppDelegate::configureAll);
     connect(&m_document, &ResultsDocument::fileDidOpen, this, &RecentDocumentsMenu::addDocument);
-    connect(&m_window, &MainWindow::quickFilterSelected, this, &AppDelegate::selectQuickFilter);
-    connect(&m_window, &MainWindow::filterChanged, this, &AppDelegate::onFilter);
-    connect(&m_window, &MainWindow::filterUsingKeys, this, &AppDelegate::handleFilterUsingKeys);
+    connect(&m_filters, &FilterCommands::didFilter, this, &AppDelegate::showFilteredNetworks);
+    connect(&m_filters, &FilterCommands::preferencesRequested, this,
+            &AppDelegate::showPreferencesWithIdentifier);
 
     const TSNetworksView& table = m_window.networksView();
-    connect(&table, &TSNetworksView::sortDescriptorsDidChange, this,
-            [this] { filterAndSetNetworks(m_pipeline.networks()); });
     connect(&table, &TSNetworksView::didEndEditing, this, &AppDelegate::prepareAndReload);
     connect(&table, &TSNetworksView::columnDidChangeHiddenState, this,
             &AppDelegate::userDidToggleColumnState);
@@ -97,11 +96,6 @@ void AppDelegate::connectParts(NotificationCenter& notifications)
     connect(&m_exchange, &ExchangeCommands::annotationsDidChange, this, &AppDelegate::configureAll);
     connect(&table, &TSNetworksView::selectionDidChange, this,
             &AppDelegate::configureSelectedTabView);
-
-    const TSSideView& sideView = m_window.sideView();
-    connect(&sideView, &TSSideView::selectionDidChange, this,
-            &AppDelegate::sideViewSelectionDidChange);
-    connect(&sideView, &TSSideView::didClickBeside, this, &AppDelegate::userDidClickSourceList);
 
     connect(&m_vendorsUpdate, &VendorDatabaseUpdate::databaseDidChange, this,
             &AppDelegate::prepareAndReload);
@@ -140,19 +134,11 @@ void AppDelegate::connectMenu()
     connect(&menu, &Menu::stopRequested, &m_scanCycle, &ScanCycle::doStop);
     connect(&m_window.menu().intervalMenu(), &IntervalMenu::intervalsTriggered, this,
             &AppDelegate::onIntervals);
-    connect(&menu, &Menu::organizeNetworksByRequested, this,
-            &AppDelegate::onViewOrganizeNetworksBy);
+    connect(&menu, &Menu::organizeNetworksByRequested, &m_filters,
+            &FilterCommands::onViewOrganizeNetworksBy);
     connect(&menu, &Menu::makeTextRequested, this, &AppDelegate::onViewMakeText);
     connect(&menu, &Menu::checkForUpdatesRequested, &m_applicationUpdate,
             &ApplicationUpdate::checkForUpdates);
-}
-
-void AppDelegate::onViewOrganizeNetworksBy()
-{
-    // The table is flat for now, whatever is chosen.
-    Defaults::standard().setValue(DefaultKey::OrganizeNetworksBy, 0);
-    filterAndSetNetworks(m_pipeline.networks());
-    configureAll();
 }
 
 void AppDelegate::onViewMakeText(double step)
@@ -231,7 +217,7 @@ void AppDelegate::loadDefaults()
 {
     Defaults& defaults = Defaults::standard();
     m_scanCycle.loadDefaults();
-    selectQuickFilter(
+    m_filters.selectQuickFilter(
         static_cast<QuickFilter>(defaults.integerForKey(DefaultKey::QuickFilterSelectedItem)));
     for (const auto& [key, smallest, largest] : kFontSizes) {
         const double size = defaults.doubleForKey(key);
@@ -337,7 +323,7 @@ void AppDelegate::makePreferences()
 void AppDelegate::valuesDidChange()
 {
     loadDefaults();
-    filterAndSetNetworks(m_pipeline.networks());
+    m_filters.filterAgain();
 }
 
 // Shutdown --------------------------------------------------------------------------------------
@@ -395,104 +381,18 @@ void AppDelegate::saveDefaults()
     defaults.setValue(DefaultKey::SideViewExpandedItems, m_window.sideView().expandedItems());
 }
 
-// Filters ---------------------------------------------------------------------------------------
-
-void AppDelegate::selectQuickFilter(QuickFilter filter)
-{
-    if (filter == kQuickFilterNotFound) {
-        const auto stored = static_cast<QuickFilter>(
-            Defaults::standard().integerForKey(DefaultKey::QuickFilterSelectedItem));
-        selectQuickFilter(stored == filter ? QuickFilter::kAllNetworks : stored);
-        // There is no such pane yet: the one that was seen last shows.
-        showPreferencesWithIdentifier(QStringLiteral("Filters"));
-        return;
-    }
-    Defaults::standard().setValue(DefaultKey::QuickFilterSelectedItem, static_cast<qint64>(filter));
-    if (isQuickFilter(filter))
-        m_window.setQuickFilter(filter);
-    setUpPipeline();
-    m_pipeline.selectQuickFilter(filter);
-    showFilteredNetworks();
-}
-
-void AppDelegate::onFilter(const QString& line)
-{
-    setUpPipeline();
-    m_pipeline.onFilter(line);
-    showFilteredNetworks();
-}
-
-void AppDelegate::sideViewSelectionDidChange(const std::optional<TSSideViewItem>& item)
-{
-    m_sideViewSelection.identifier.clear();
-    if (!item)
-        return;
-    if (item->identifier.startsWith(QLatin1String("item")))
-        m_sideViewSelection.identifier = item->identifier;
-    // The same value under another facet waits for the next pass, and it is meant so.
-    if (item->filterString == m_sideViewSelection.string)
-        return;
-    m_sideViewSelection.string = item->filterString;
-    m_window.networksView().clearSelection();
-    filterAndSetNetworks(m_pipeline.networks());
-}
-
-void AppDelegate::userDidClickSourceList()
-{
-    TSSideView& sideView = m_window.sideView();
-    if (sideView.selectionModel()->hasSelection() || !m_sideViewSelection.identifier.isEmpty()) {
-        sideView.clearSelection();
-        m_sideViewSelection = {}; // also that of a value that has vanished
-        filterAndSetNetworks(m_pipeline.networks());
-    }
-    m_window.networksView().clearSelection();
-}
-
-void AppDelegate::handleFilterUsingKeys(std::int64_t threshold)
-{
-    m_signalStrengthThreshold = threshold;
-    Defaults::standard().setValue(DefaultKey::SignalStrengthThreshold,
-                                  static_cast<qint64>(threshold));
-    filterAndSetNetworks(m_pipeline.networks());
-}
-
 // From the scan cycle to the views --------------------------------------------------------------
 
 void AppDelegate::filterAndSetNetworks(const NetworkList& networks)
 {
-    setUpPipeline();
-    m_pipeline.filterAndSetNetworks(networks);
-    showFilteredNetworks();
-}
-
-void AppDelegate::setUpPipeline()
-{
-    const Defaults& defaults = Defaults::standard();
-    m_pipeline.setShownKinds(ShownKinds::fromDefaults(defaults));
-    m_pipeline.setSignalThreshold(
-        {m_signalStrengthThreshold, defaults.integerForKey(DefaultKey::Units) == 1});
-    m_pipeline.setSortDescriptors(m_window.networksView().sortDescriptors());
-    m_pipeline.setAssociation(association());
-    m_pipeline.setSideViewSelection(m_sideViewSelection);
+    m_filters.filterAndSetNetworks(networks);
 }
 
 void AppDelegate::showFilteredNetworks()
 {
     configureSideView();
-    m_window.setThresholdFooter(m_pipeline.signalThreshold().text());
+    m_window.setThresholdFooter(pipeline().signalThreshold().text());
     prepareAndReload();
-}
-
-std::optional<Association> AppDelegate::association() const
-{
-    const CWInterface* interface = m_scanCycle.currentInterface().get();
-    if (!m_scanCycle.isScanning() || !interface || !interface->isAssociated())
-        return std::nullopt;
-    const auto bssid = interface->bssid();
-    const auto band = interface->channelBand();
-    if (!bssid || !band)
-        return std::nullopt;
-    return Association{*bssid, *band, interface->ssid().value_or(QString())};
 }
 
 void AppDelegate::prepareAndReload()
@@ -506,19 +406,19 @@ void AppDelegate::configureAll()
     if (!m_window.networksView().isEditing()) // else when the note is written
         configureNetworksView();
     configureSelectedTabView();
-    m_window.setLeftFooter(m_pipeline.footerText());
+    m_window.setLeftFooter(pipeline().footerText());
     showWindowTitle();
     updateStateInfo();
 }
 
 void AppDelegate::configureSideView()
 {
-    m_window.sideView().setItems(sideViewOf(m_pipeline.sideViewNetworks()));
+    m_window.sideView().setItems(sideViewOf(pipeline().sideViewNetworks()));
 }
 
 QString AppDelegate::placeholderText() const
 {
-    if (!m_pipeline.networks().empty())
+    if (!pipeline().networks().empty())
         return localized("No network passes the filters");
     return localized(m_scanCycle.isScanning() ? "No networks yet"_en
                                               : "Press Scan to look for networks"_en);
@@ -531,16 +431,16 @@ void AppDelegate::configureNetworksView()
     table.setFontSize(defaults.doubleForKey(DefaultKey::NetworksViewFontSize));
     table.setPlaceholderText(placeholderText());
     table.setAnnotationsEditable(m_document.hasUnsavedResults()); // those of a file are its own
-    table.setFilteredColumns(m_pipeline.filteredColumnIdentifiers());
-    table.setNetworks(m_pipeline.filteredNetworks(),
+    table.setFilteredColumns(pipeline().filteredColumnIdentifiers());
+    table.setNetworks(pipeline().filteredNetworks(),
                       CellContext::fromDefaults(m_scanCycle.isScanning()));
 }
 
 void AppDelegate::configureSelectedTabView()
 {
     m_window.graphTabs().configureSelectedTabView(
-        m_pipeline.filteredNetworks(), CellContext::fromDefaults(m_scanCycle.isScanning()));
-    m_spokenReports.setSelectedNetwork(selectedNetwork(m_pipeline.filteredNetworks()));
+        pipeline().filteredNetworks(), CellContext::fromDefaults(m_scanCycle.isScanning()));
+    m_spokenReports.setSelectedNetwork(selectedNetwork(pipeline().filteredNetworks()));
     m_spokenReports.speakSoon();
 }
 
@@ -554,8 +454,7 @@ void AppDelegate::onSpeak()
 
 void AppDelegate::clearSideViewSelection()
 {
-    m_window.sideView().clearSelection();
-    m_sideViewSelection = {};
+    m_filters.clearSideViewSelection();
 }
 
 /// The spectrum tells of a network what the list has columns for.

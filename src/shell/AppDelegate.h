@@ -2,13 +2,12 @@
 
 #include "enrichment/SpokenReports.h"
 #include "enrichment/TSNetServiceBrowser.h"
-#include "filtering/DisplayPipeline.h"
-#include "filtering/TSSideViewItem.h"
 #include "persistence/ApplicationUpdate.h"
 #include "persistence/ResultsDocument.h"
 #include "persistence/VendorDatabaseUpdate.h"
 #include "scanning/ScanCycle.h"
 #include "shell/ExchangeCommands.h"
+#include "shell/FilterCommands.h"
 #include "shell/MainWindow.h"
 #include "shell/SheetPrompt.h"
 
@@ -42,7 +41,7 @@ public:
 
     MainWindow& window() { return m_window; }
     ScanCycle& scanCycle() { return m_scanCycle; }
-    const DisplayPipeline& pipeline() const { return m_pipeline; }
+    const DisplayPipeline& pipeline() const { return m_filters.pipeline(); }
 
 Q_SIGNALS:
     /// The window has closed and the settings are stored: the process is to end.
@@ -79,19 +78,14 @@ private:
 
     void connectMenu();
     void connectSpeech();
-    void onViewOrganizeNetworksBy();
     void onViewMakeText(double step);
     void connectParts(NotificationCenter& notifications);
     void loadDefaults();
-    void selectQuickFilter(QuickFilter filter);
-    void onFilter(const QString& line);
-    void handleFilterUsingKeys(std::int64_t threshold);
     void handleUserDidPickNetwork(const QString& bssid);
     void userDidSelectColor(const NetworkPtr& network, const QColor& color);
     void showPreferencesWithIdentifier(const QString& identifier);
     void makePreferences();
     void valuesDidChange();
-    void setUpPipeline();
     void showFilteredNetworks();
     void saveDefaults();
     void restoreWindowFrame();
@@ -104,17 +98,13 @@ private:
     void onSpeak();
     void userDidToggleColumnState(const Column& column);
     void configureSideView();
-    void sideViewSelectionDidChange(const std::optional<TSSideViewItem>& item);
-    void userDidClickSourceList();
     QString placeholderText() const;
     QString windowTitle() const;
     void showWindowTitle();
     void windowShouldClose();
     void windowWillClose();
     void applicationWillTerminate();
-    std::optional<Association> association() const;
 
-    DisplayPipeline m_pipeline;
     MainWindow m_window;
     SheetPrompt m_prompt{m_window};
     ScanCycle m_scanCycle;
@@ -128,10 +118,9 @@ private:
     VendorDatabaseUpdate m_vendorsUpdate;
     ApplicationUpdate m_applicationUpdate;
     std::unique_ptr<RepeatingTimer> m_vendorsCheck; ///< until its first call
+    FilterCommands m_filters;
     ExchangeCommands m_exchange;
     bool m_windowDidShowFirstTime = false;
-    std::int64_t m_signalStrengthThreshold = 0;
-    SideViewSelection m_sideViewSelection;
     MASPreferencesWindowController* m_preferences =
         nullptr; ///< the window's, once it was asked for
     bool m_didTerminate = false;
