@@ -2,6 +2,7 @@
 
 #include "foundation/Localized.h"
 #include "shell/HelpPage.h"
+#include "shell/LegibleColor.h"
 #include "shell/RichTextReader.h"
 #include "shell/Translations.h"
 
@@ -17,8 +18,9 @@ namespace tessara {
 
 namespace {
 
-constexpr int kMargin = 18;   // pixels
-constexpr int kIconSide = 96; // pixels
+constexpr int kMargin = 18;     // pixels
+constexpr int kIconSide = 96;   // pixels
+constexpr int kAboutWidth = 52; // characters
 constexpr QSize kAcknowledgments(560, 440);
 
 QByteArray resource(const char* path)
@@ -69,7 +71,11 @@ void showAbout(QWidget& window)
     layout->addWidget(icon);
     layout->addWidget(name);
     layout->addWidget(makeLabel(localized("Version %1").arg(QLatin1String(TESSARA_VERSION))));
-    layout->addWidget(makeLabel(QString::fromUtf8(translatedPage(QStringLiteral("Credits.html")))));
+    QLabel* credits = makeLabel(withLegibleLinks(
+        QString::fromUtf8(translatedPage(QStringLiteral("Credits.html"))), panel->palette()));
+    credits->setFixedWidth(kAboutWidth * credits->fontMetrics().averageCharWidth());
+    layout->addWidget(credits);
+    layout->setSizeConstraint(QLayout::SetFixedSize); // else a low screen cuts the text
     show(panel, *layout, QDialogButtonBox::Close);
 }
 

@@ -2,6 +2,7 @@
 
 #include <QColor>
 #include <QPalette>
+#include <QString>
 
 #include <algorithm>
 
@@ -29,6 +30,13 @@ inline QColor dimmed(const QPalette& palette)
     QColor color = palette.color(QPalette::Active, QPalette::Text); // also beside what is disabled
     color.setAlphaF(0.55F);
     return color;
+}
+
+/// Rich text whose links can be read; of itself it takes the desktop's colour for them.
+inline QString withLegibleLinks(const QString& html, const QPalette& palette)
+{
+    return QStringLiteral("<style>a { color: %1; }</style>%2")
+        .arg(legible(Qt::blue, palette).name(), html);
 }
 
 } // namespace tessara

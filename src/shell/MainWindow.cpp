@@ -38,6 +38,8 @@ namespace {
 constexpr QSize kFreshSize(1100, 735);
 constexpr QSize kSmallestSize(760, 460); // the toolbar fits, and the tabs below a few rows
 constexpr int kSmallestTable = 100;      // height
+constexpr int kSmallestTabs = 400;       // height
+constexpr int kRoomyTable = 240;         // height; what a low window leaves the table of both
 constexpr int kNarrowestSideView = 125;  // and at most a quarter of the window
 constexpr int kFooterMargin = 6;
 constexpr double kFirstRunWidth = 0.9;
@@ -134,7 +136,7 @@ void MainWindow::connectMenu()
     connect(&m_menu->sideViewItem(), &QAction::triggered, this, &MainWindow::setSideViewShown);
     connect(&m_menu->lowerHalfItem(), &QAction::triggered, this, &MainWindow::setTabsShown);
     connect(m_splitter, &QSplitter::splitterMoved, this, &MainWindow::limitSideView);
-    connect(m_tabsSplitter, &QSplitter::splitterMoved, this, &MainWindow::validateAreaItems);
+    connect(m_tabsSplitter, &QSplitter::splitterMoved, this, &MainWindow::limitTabs);
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
         if (now) // two views copy nothing at this command
             m_menu->setCopyEnabled(now != m_sideView && now != &m_graphTabs->advancedDetailsView());
@@ -353,6 +355,17 @@ void MainWindow::limitSideView()
     const int side = m_splitter->sizes().front();
     if (side > widestSideView())
         m_splitter->setSizes({widestSideView(), m_splitter->width() - widestSideView()});
+    validateAreaItems();
+}
+
+void MainWindow::limitTabs()
+{
+    const int room = m_tabsSplitter->height() - m_tabsSplitter->handleWidth();
+    const int smallest =
+        std::clamp(room - kRoomyTable, m_graphTabs->minimumHeight(), kSmallestTabs);
+    const int tabs = m_tabsSplitter->sizes().back();
+    if (tabs > 0 && tabs < smallest)
+        m_tabsSplitter->setSizes({room - smallest, smallest});
     validateAreaItems();
 }
 

@@ -85,6 +85,7 @@ private:
     void leaveArea(const QWidget& area);
     int widestSideView() const;
     void limitSideView();
+    void limitTabs();
     void validateAreaItems();
 
     QSplitter* m_splitter;

@@ -24,6 +24,7 @@ constexpr int kGroupSpacing = 8; // between groups of rows
 constexpr int kWidth = 52;       // characters
 constexpr int kReadingWidth = 9; // characters, of a reading such as "-100 dBm"
 constexpr double kCaptionAlpha = 0.7;
+constexpr const char* kCaptionName = "Caption";
 constexpr double kNameSize = 1.2; // beside the other texts
 
 enum GridColumn { kCaption, kValue, kSecondValue };
@@ -42,21 +43,19 @@ QLabel* makeValue()
 QLabel* makeCaption(const QString& text)
 {
     auto* caption = new QLabel(text);
+    caption->setObjectName(QLatin1String(kCaptionName));
     caption->setAlignment(Qt::AlignRight | Qt::AlignTop);
-    QPalette palette = caption->palette();
-    palette.setColor(QPalette::WindowText,
-                     withAlpha(palette.color(QPalette::WindowText), kCaptionAlpha));
-    caption->setPalette(palette);
     return caption;
 }
 
-void setTextColor(QLabel& label, const QColor& color)
+/// @param color none for that of other labels
+void setTextColor(QLabel& label, const std::optional<QColor>& color)
 {
-    QPalette palette = label.palette();
-    if (palette.color(QPalette::WindowText) == color)
-        return;
-    palette.setColor(QPalette::WindowText, color);
-    label.setPalette(palette);
+    QPalette palette; // what is not set here follows the desktop
+    if (color)
+        palette.setColor(QPalette::WindowText, *color);
+    if (label.palette().color(QPalette::WindowText) != palette.color(QPalette::WindowText))
+        label.setPalette(palette);
 }
 
 QString underlined(const ChannelRangeText& range)
@@ -80,12 +79,32 @@ NetworkDetailsForm::NetworkDetailsForm(QWidget* parent)
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setFocusPolicy(Qt::NoFocus);
     setFixedWidth(kWidth * fontMetrics().averageCharWidth());
-    auto* placeholder = new QLabel(localized("Select a network"));
-    placeholder->setAlignment(Qt::AlignCenter);
-    setTextColor(*placeholder, dimmed(palette()));
-    m_pages->addWidget(placeholder);
+    m_placeholder = new QLabel(localized("Select a network"));
+    m_placeholder->setAlignment(Qt::AlignCenter);
+    m_pages->addWidget(m_placeholder);
     makeForm();
     setWidget(m_pages);
+    paletteDidChange();
+}
+
+void NetworkDetailsForm::changeEvent(QEvent* event)
+{
+    QScrollArea::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        paletteDidChange();
+}
+
+/// What is not in a plain colour of the palette is made of them.
+void NetworkDetailsForm::paletteDidChange()
+{
+    setTextColor(*m_placeholder, dimmed(palette()));
+    const QColor caption = withAlpha(palette().color(QPalette::WindowText), kCaptionAlpha);
+    for (QLabel* label : findChildren<QLabel*>(QLatin1String(kCaptionName)))
+        setTextColor(*label, caption);
+    const int side = fontMetrics().ascent();
+    m_iconSecurityImg->setPixmap(glyphIcon(Glyph::kLock).pixmap(side, side));
+    m_iconSignalQualityImg->setPixmap(glyphIcon(Glyph::kLowSignal).pixmap(side, side));
+    setNetwork(m_network, m_context);
 }
 
 void NetworkDetailsForm::makeForm()
@@ -126,7 +145,7 @@ void NetworkDetailsForm::makeForm()
     m_beaconInterval = addRow("Beacon Interval"_en);
     addSpace();
     m_security = addRow("Security"_en);
-    m_iconSecurityImg = addIcon(m_security, glyphIcon(Glyph::kLock));
+    m_iconSecurityImg = addIcon(m_security);
     m_encryption = addRow("Encryption"_en);
     m_wps = addRow("WPS"_en);
     addSpace();
@@ -159,7 +178,7 @@ void NetworkDetailsForm::makeSignalRows()
     m_snr = addRow("SNR"_en);
     m_snrAvgLbl = addStatistic(m_snr);
     m_signalQuality = addRow("Quality"_en);
-    m_iconSignalQualityImg = addIcon(m_signalQuality, glyphIcon(Glyph::kLowSignal));
+    m_iconSignalQualityImg = addIcon(m_signalQuality);
     m_iconSignalQualityImg->setToolTip(localized("The signal is weak beside the noise"));
 }
 
@@ -173,12 +192,10 @@ NetworkDetailsForm::Row NetworkDetailsForm::addRow(EnglishText caption)
     return row;
 }
 
-/// Puts an icon before the value of the last row.
-QLabel* NetworkDetailsForm::addIcon(const Row& row, const QIcon& icon)
+/// Makes room for an icon before the value of the last row.
+QLabel* NetworkDetailsForm::addIcon(const Row& row)
 {
     auto* label = new QLabel;
-    const int side = fontMetrics().ascent();
-    label->setPixmap(icon.pixmap(side, side));
     auto* both = new QHBoxLayout;
     both->setSpacing(kMargin / 3);
     m_grid->removeWidget(row.value);
@@ -215,6 +232,7 @@ void NetworkDetailsForm::askForColor()
 void NetworkDetailsForm::setNetwork(const NetworkPtr& network, const CellContext& context)
 {
     m_network = network;
+    m_context = context;
     if (network)
         fill(*network, context);
     m_pages->setCurrentIndex(network ? 1 : 0);
@@ -255,12 +273,15 @@ void NetworkDetailsForm::fillSignal(const TSNetwork& network, const CellContext&
     const SignalQuality quality = signalQuality(network, context.isScanning);
     m_signalQuality.setText(localized(quality.text));
     m_iconSignalQualityImg->setVisible(quality.isPoor);
-    const QColor normal = palette().color(QPalette::WindowText);
-    setTextColor(*m_signalQuality.value, quality.isMissing ? legible(Qt::red, palette()) : normal);
-    const QColor reading =
-        quality.isMissing ? palette().color(QPalette::Disabled, QPalette::WindowText) : normal;
+    std::optional<QColor> qualityColor;
+    std::optional<QColor> readingColor;
+    if (quality.isMissing) {
+        qualityColor = legible(Qt::red, palette());
+        readingColor = palette().color(QPalette::Disabled, QPalette::WindowText);
+    }
+    setTextColor(*m_signalQuality.value, qualityColor);
     for (const Row& row : {m_rssi, m_noise, m_snr})
-        setTextColor(*row.value, reading);
+        setTextColor(*row.value, readingColor);
 }
 
 /// As a link where the vendor's web site is known.
@@ -270,8 +291,8 @@ QString NetworkDetailsForm::vendorText(const QString& vendor) const
     const auto url = m_urlForVendor ? m_urlForVendor(vendor) : std::nullopt;
     if (!url)
         return name;
-    return QStringLiteral("<a href=\"%1\" style=\"color:%2\">%3</a>")
-        .arg(url->toHtmlEscaped(), legible(Qt::blue, palette()).name(), name);
+    return withLegibleLinks(QStringLiteral("<a href=\"%1\">%2</a>").arg(url->toHtmlEscaped(), name),
+                            palette());
 }
 
 } // namespace tessara

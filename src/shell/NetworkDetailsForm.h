@@ -35,6 +35,9 @@ Q_SIGNALS:
     /// The user has chosen a colour for a network.
     void didSelectColor(const NetworkPtr& network, const QColor& color);
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
     /// A caption and its value, hidden together where there is no value.
     struct Row {
@@ -44,8 +47,9 @@ private:
     };
 
     Row addRow(EnglishText caption);
-    QLabel* addIcon(const Row& row, const QIcon& icon);
+    QLabel* addIcon(const Row& row);
     void addSpace();
+    void paletteDidChange();
     void askForColor();
     void makeForm();
     void makeSignalRows();
@@ -55,7 +59,9 @@ private:
 
     VendorURL m_urlForVendor;
     NetworkPtr m_network; ///< that is shown
+    CellContext m_context;
     QStackedWidget* m_pages;
+    QLabel* m_placeholder = nullptr;
     QGridLayout* m_grid = nullptr;
     ColorWell* m_networkColorWell = nullptr;
     QLabel* m_ssidLbl = nullptr;

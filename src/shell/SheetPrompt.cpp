@@ -1,6 +1,7 @@
 #include "shell/SheetPrompt.h"
 
 #include "foundation/Localized.h"
+#include "shell/LegibleColor.h"
 #include "shell/TSProgressWindow.h"
 
 #include <QCheckBox>
@@ -57,8 +58,9 @@ QMessageBox* SheetPrompt::makeSheet(const TSAlert& alert)
                                 QMessageBox::NoButton, &m_window);
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setTextFormat(Qt::PlainText);
-    box->setInformativeText(QStringLiteral("<p>%1</p>%2")
-                                .arg(alert.informativeText.toHtmlEscaped(), alert.accessoryHtml));
+    const QString text = QStringLiteral("<p>%1</p>%2")
+                             .arg(alert.informativeText.toHtmlEscaped(), alert.accessoryHtml);
+    box->setInformativeText(withLegibleLinks(text, box->palette()));
     addButtons(*box, alert.buttons);
     return box;
 }
