@@ -124,6 +124,10 @@
         <translation>Hersteller</translation>
     </message>
     <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
         <source>2.4 GHz</source>
         <translation>2.4 GHz</translation>
     </message>
@@ -578,10 +582,6 @@
     <message>
         <source>Version %1 is the newest version available.</source>
         <translation>Version %1 ist die neueste verfügbare Version.</translation>
-    </message>
-    <message>
-        <source>OK</source>
-        <translation>OK</translation>
     </message>
     <message>
         <source>There is not enough memory for this.</source>
@@ -1064,6 +1064,10 @@
         <translation>Erweitert</translation>
     </message>
     <message>
+        <source>Unable to open the web page.</source>
+        <translation>Die Webseite lässt sich nicht öffnen.</translation>
+    </message>
+    <message>
         <source>Unable to scan for wireless networks.</source>
         <translation>Die Suche nach Funknetzwerken ist nicht möglich.</translation>
     </message>
@@ -1290,6 +1294,14 @@ a, b &amp; c: Netzwerke, die a oder b sind, und c</translation>
     <message>
         <source>Select a network to see its information elements</source>
         <translation>Für Informationselemente ein Netzwerk auswählen</translation>
+    </message>
+    <message>
+        <source>&amp;Next Tab</source>
+        <translation>&amp;Nächster Tab</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Tab</source>
+        <translation>&amp;Vorheriger Tab</translation>
     </message>
     <message>
         <source>Details C&amp;hart</source>
@@ -1578,6 +1590,10 @@ a, b &amp; c: Netzwerke, die a oder b sind, und c</translation>
     <message>
         <source>Channel Width</source>
         <translation>Kanalbreite</translation>
+    </message>
+    <message>
+        <source>Secured</source>
+        <translation>Gesichert</translation>
     </message>
     <message>
         <source>Encryption</source>

@@ -13,7 +13,8 @@ void SpeechEngine::say(const QString& text, int request)
         startEngine();
     if (m_engine)
         m_engine->say(text);
-    else
+    // A service that has gone tells of no change.
+    if (!m_engine || m_engine->state() == QTextToSpeech::Error)
         Q_EMIT speakingDidChange(false, request);
 }
 

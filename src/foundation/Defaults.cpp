@@ -74,9 +74,12 @@ QVariant Defaults::value(QStringView key) const
 
 void Defaults::setValue(QStringView key, const QVariant& value)
 {
-    m_overrides.remove(key.toString());
-    if (storedValue(key) == value)
+    const bool wasOverridden = m_overrides.remove(key.toString()) > 0;
+    if (storedValue(key) == value) {
+        if (wasOverridden)
+            Q_EMIT didChange();
         return;
+    }
     m_values.insert(key.toString(), value);
     if (m_store)
         m_store->setValue(key.toString(), value);
@@ -85,9 +88,12 @@ void Defaults::setValue(QStringView key, const QVariant& value)
 
 void Defaults::remove(QStringView key)
 {
-    m_overrides.remove(key.toString());
-    if (!storedValue(key).isValid())
+    const bool wasOverridden = m_overrides.remove(key.toString()) > 0;
+    if (!storedValue(key).isValid()) {
+        if (wasOverridden)
+            Q_EMIT didChange();
         return;
+    }
     m_values.insert(key.toString(), {});
     if (m_store)
         m_store->remove(key.toString());

@@ -34,14 +34,16 @@ void ApplicationUpdate::checkForUpdatesIfDue()
     const double age = m_clock.now() - static_cast<double>(last.toMSecsSinceEpoch()) / 1000.0;
     const auto interval =
         static_cast<double>(defaults.integerForKey(DefaultKey::UpdateCheckInterval));
-    if (defaults.boolForKey(DefaultKey::CheckForUpdates) && (!last.isValid() || age >= interval))
+    if (defaults.boolForKey(DefaultKey::CheckForUpdates) &&
+        (!last.isValid() || age < 0 || age >= interval))
         check(false);
 }
 
 void ApplicationUpdate::check(bool interactive)
 {
-    if (m_check)
+    if (m_check && !interactive)
         return;
+    m_check.reset(); // one that the user did not ask for would not answer
     if (interactive)
         m_progress = m_prompt.beginProgress(localized("Checking for updates..."));
     QNetworkRequest request(m_source.location);

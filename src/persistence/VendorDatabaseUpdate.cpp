@@ -74,7 +74,7 @@ void VendorDatabaseUpdate::checkForDatabaseUpdates(bool interactive)
     } else {
         const auto last = defaults.value(DefaultKey::LastVendorsDatabaseCheck).toDateTime();
         const double age = m_clock.now() - static_cast<double>(last.toMSecsSinceEpoch()) / 1000.0;
-        if ((last.isValid() && age < kCheckInterval) || m_check ||
+        if ((last.isValid() && age >= 0 && age < kCheckInterval) || m_check ||
             defaults.integerForKey(DefaultKey::UpdateAlertSuppressionButton) != 0)
             return;
     }

@@ -20,19 +20,20 @@ ActivityIndicator::ActivityIndicator(QWidget* parent)
     : QWidget(parent)
 {
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-    setAccessibleName(localized("Scan in progress"));
 }
 
 void ActivityIndicator::start()
 {
     if (!isAnimating())
         m_timer.start(kStepInterval, this);
+    setAccessibleName(localized("Scan in progress"));
     update();
 }
 
 void ActivityIndicator::stop()
 {
     m_timer.stop();
+    setAccessibleName({});
     update();
 }
 

@@ -20,6 +20,7 @@ AdvancedPrefsViewController::AdvancedPrefsViewController(QWidget* parent)
     m_hideDFSChannels->setToolTip(
         localized("Channels 52 to 144, which networks must leave to radars"));
     auto* checkNow = new QPushButton(localized("Check &Now"));
+    checkNow->setAutoDefault(false); // the Return key is not meant for it
     auto* form = new QFormLayout(this);
     form->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
     form->setLabelAlignment(Qt::AlignRight);

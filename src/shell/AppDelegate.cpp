@@ -20,6 +20,7 @@
 #include "shell/TSNetworksView.h"
 #include "shell/TSSideView.h"
 
+#include <QDesktopServices>
 #include <QEvent>
 #include <QGuiApplication>
 
@@ -78,6 +79,7 @@ void AppDelegate::connectParts(NotificationCenter& notifications)
     connect(&m_document, &ResultsDocument::titleDidChange, this, &AppDelegate::configureAll);
     connect(&m_document, &ResultsDocument::fileDidOpen, this, &RecentDocumentsMenu::addDocument);
     connect(&m_filters, &FilterCommands::didFilter, this, &AppDelegate::showFilteredNetworks);
+    connect(&m_window, &MainWindow::filterUsingKeys, this, &AppDelegate::configureAll);
     connect(&m_filters, &FilterCommands::preferencesRequested, this,
             &AppDelegate::showPreferencesWithIdentifier);
 
@@ -139,6 +141,10 @@ void AppDelegate::connectMenu()
     connect(&menu, &Menu::makeTextRequested, this, &AppDelegate::onViewMakeText);
     connect(&menu, &Menu::checkForUpdatesRequested, &m_applicationUpdate,
             &ApplicationUpdate::checkForUpdates);
+    connect(&menu, &Menu::webPageRequested, this, [this](const QUrl& url) {
+        if (!QDesktopServices::openUrl(url))
+            m_prompt.inform(localized("Unable to open the web page."), url.toString());
+    });
 }
 
 void AppDelegate::onViewMakeText(double step)

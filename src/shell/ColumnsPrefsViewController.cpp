@@ -38,7 +38,6 @@ ColumnsPrefsViewController::ColumnsPrefsViewController(TSNetworksView& networksV
     table.header()->setSectionResizeMode(ColumnVisibilityModel::kShowColumn,
                                          QHeaderView::ResizeToContents);
     table.header()->setStretchLastSection(true);
-    table.sortByColumn(ColumnVisibilityModel::kNameColumn, Qt::AscendingOrder);
     table.setSortingEnabled(true);
     connect(table.selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &ColumnsPrefsViewController::showDescription);
@@ -70,6 +69,7 @@ QIcon ColumnsPrefsViewController::toolbarItemImage() const
 
 void ColumnsPrefsViewController::viewWillAppear()
 {
+    m_columnNamesTableView->sortByColumn(ColumnVisibilityModel::kNameColumn, Qt::AscendingOrder);
     m_columnNamesTableView->selectionModel()->clear();
     m_columnDescLbl->setText(localized("Select a column name for details."));
     m_displayAnnotationsBtn->setChecked(

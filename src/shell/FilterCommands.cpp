@@ -6,6 +6,8 @@
 #include "shell/TSNetworksView.h"
 #include "shell/TSSideView.h"
 
+#include <utility>
+
 namespace tessara {
 
 FilterCommands::FilterCommands(MainWindow& window, const ScanCycle& scanCycle)
@@ -74,8 +76,11 @@ void FilterCommands::handleFilterUsingKeys(std::int64_t threshold)
 void FilterCommands::sideViewSelectionDidChange(const std::optional<TSSideViewItem>& item)
 {
     m_sideViewSelection.identifier.clear();
-    if (!item)
+    if (!item) {
+        if (!std::exchange(m_sideViewSelection.string, {}).isEmpty())
+            filterAgain();
         return;
+    }
     if (item->identifier.startsWith(QLatin1String("item")))
         m_sideViewSelection.identifier = item->identifier;
     // The same value under another facet waits for the next pass, and it is meant so.
@@ -98,8 +103,8 @@ void FilterCommands::userDidClickSourceList()
 
 void FilterCommands::clearSideViewSelection()
 {
-    m_window.sideView().clearSelection();
     m_sideViewSelection = {};
+    m_window.sideView().clearSelection();
 }
 
 void FilterCommands::setUpPipeline()

@@ -29,9 +29,7 @@ FilterField::FilterField(QWidget* parent)
     , m_recentFilters(new QMenu(this))
 {
     setPlaceholderText(localized("Filter"));
-    QPalette legiblePalette = palette();
-    legiblePalette.setColor(QPalette::PlaceholderText, dimmed(legiblePalette));
-    setPalette(legiblePalette);
+    paletteDidChange();
     setAccessibleName(localized("Filter"));
     setClearButtonEnabled(true);
     setToolTip(
@@ -41,11 +39,8 @@ FilterField::FilterField(QWidget* parent)
                   ">-70, >=50%: the last signal; !home: all but these\n"
                   "a, b & c: networks that are a or b, and c"));
     QAction* menu = addAction(glyphIcon(Glyph::kSearch), LeadingPosition);
-    menu->setToolTip(localized("Recent filters"));
-    connect(menu, &QAction::triggered, this, [this] {
-        fillMenu();
-        m_recentFilters->popup(mapToGlobal(rect().bottomLeft()));
-    });
+    menu->setText(localized("Recent filters"));
+    connect(menu, &QAction::triggered, this, &FilterField::showMenu);
     connect(this, &QLineEdit::returnPressed, this, &FilterField::remember);
 }
 
@@ -54,8 +49,27 @@ QSize FilterField::sizeHint() const
     return {fontMetrics().averageCharWidth() * kWidth, QLineEdit::sizeHint().height()};
 }
 
+void FilterField::changeEvent(QEvent* event)
+{
+    QLineEdit::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        paletteDidChange();
+}
+
+void FilterField::paletteDidChange()
+{
+    QPalette hint; // what is not set here follows the desktop
+    hint.setColor(QPalette::PlaceholderText, dimmed(palette()));
+    if (hint.placeholderText() != palette().placeholderText())
+        setPalette(hint);
+}
+
 void FilterField::keyPressEvent(QKeyEvent* event)
 {
+    if (event->key() == Qt::Key_Down) {
+        showMenu();
+        return;
+    }
     if (event->key() != Qt::Key_Escape) {
         QLineEdit::keyPressEvent(event);
         return;
@@ -83,6 +97,12 @@ void FilterField::remember()
     lines.removeAll(line);
     lines.prepend(line);
     defaults.setValue(DefaultKey::RecentFilters, QStringList(lines.mid(0, kRecentFilters)));
+}
+
+void FilterField::showMenu()
+{
+    fillMenu();
+    m_recentFilters->popup(mapToGlobal(rect().bottomLeft()));
 }
 
 void FilterField::fillMenu()

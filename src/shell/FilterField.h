@@ -20,11 +20,14 @@ Q_SIGNALS:
     void didLeave();
 
 protected:
+    void changeEvent(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
 
 private:
     void remember();
+    void paletteDidChange();
+    void showMenu();
     void fillMenu();
 
     QMenu* m_recentFilters;

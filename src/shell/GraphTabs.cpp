@@ -95,6 +95,13 @@ void GraphTabs::selectGraph(int index)
     m_tabBar->setCurrentIndex(index);
 }
 
+/// From the last tab on to the first one.
+void GraphTabs::selectGraphBeside(int step)
+{
+    const int count = m_tabBar->count();
+    selectGraph((m_tabBar->currentIndex() + step + count) % count);
+}
+
 void GraphTabs::tabDidChange(int index)
 {
     m_pages->setCurrentIndex(index);
@@ -187,6 +194,10 @@ void GraphTabs::saveDefaults() const
 void GraphTabs::addViewItems(QMenu& menu)
 {
     menu.addActions(m_tabItems->actions());
+    menu.addAction(localized("&Next Tab"), this, [this] { selectGraphBeside(1); })
+        ->setShortcuts({QKeySequence(Qt::CTRL | Qt::Key_PageDown), QKeySequence::NextChild});
+    menu.addAction(localized("&Previous Tab"), this, [this] { selectGraphBeside(-1); })
+        ->setShortcuts({QKeySequence(Qt::CTRL | Qt::Key_PageUp), QKeySequence::PreviousChild});
     menu.addSeparator();
     menu.addMenu(localized("Details C&hart"))
         ->addActions(m_networkDetails->metricItems().actions());

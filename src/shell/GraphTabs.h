@@ -53,6 +53,7 @@ protected:
 
 private:
     void addTab(EnglishText title, QWidget* page);
+    void selectGraphBeside(int step);
     void tabDidChange(int index);
     void configure();
     void configureAdvancedDetailsTabView();

@@ -8,6 +8,8 @@
 #include <QPainter>
 #include <QWidget>
 
+#include <cmath>
+
 namespace tessara {
 
 namespace {
@@ -84,8 +86,9 @@ QSize ImageAndTextCell::sizeHint(const QStyleOptionViewItem& option, const QMode
     initStyleOption(&cell, index);
     const TSSideViewItem& item = static_cast<const SideViewModel*>(index.model())->itemAt(index);
     const Look look = lookOf(item, index.column(), cell.palette);
-    double width =
-        look.leftMargin + look.rightMargin + cell.fontMetrics.horizontalAdvance(cell.text);
+    // Rounded down, the text would be cut.
+    double width = look.leftMargin + look.rightMargin +
+                   std::ceil(QFontMetricsF(cell.font).horizontalAdvance(cell.text));
     if (look.image)
         width += cell.fontMetrics.ascent() + kGap;
     return QSizeF(width, cell.fontMetrics.height() + kRowPadding).toSize();

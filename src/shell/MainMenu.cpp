@@ -13,7 +13,6 @@
 #include <QActionGroup>
 #include <QApplication>
 #include <QClipboard>
-#include <QDesktopServices>
 #include <QLabel>
 #include <QLineEdit>
 #include <QUrl>
@@ -149,7 +148,7 @@ void MainMenu::makeFieldItems(QMenu& edit)
             field->copy();
         else if (label && label->hasSelectedText())
             QApplication::clipboard()->setText(label->selectedText());
-        else
+        else if (m_networksView.hasFocus())
             Q_EMIT copyRequested();
     });
     for (const auto& [title, key, command] : kFieldCommands) {
@@ -285,7 +284,7 @@ void MainMenu::makeHelpMenu()
     help.addSeparator();
     for (const auto& [title, address] : kWebPages) {
         const QUrl url(QString::fromLatin1(address));
-        help.addAction(localized(title), this, [url] { QDesktopServices::openUrl(url); });
+        help.addAction(localized(title), this, [this, url] { Q_EMIT webPageRequested(url); });
     }
     help.addSeparator();
     help.addAction(localized("Check for &Updates..."), this, &MainMenu::checkForUpdatesRequested);

@@ -61,6 +61,7 @@ Q_SIGNALS:
     /// @param step points to add to the sizes of text
     void makeTextRequested(double step);
     void checkForUpdatesRequested();
+    void webPageRequested(const QUrl& url);
 
 private:
     void makeFileMenu();

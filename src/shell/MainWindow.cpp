@@ -269,6 +269,14 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event)
     return QMainWindow::eventFilter(watched, event);
 }
 
+void MainWindow::changeEvent(QEvent* event)
+{
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow() &&
+        !m_networksView->isEditing() && m_networksView->selectionModel()->hasSelection())
+        m_networksView->setFocus(Qt::ActiveWindowFocusReason);
+}
+
 void MainWindow::dragEnterEvent(QDragEnterEvent* event)
 {
     dragMoveEvent(event);
@@ -306,8 +314,6 @@ void MainWindow::restoreSplitter(const QByteArray& state)
 
 void MainWindow::setSideViewShown(bool shown)
 {
-    if (!shown)
-        leaveArea(*m_sideView);
     if (const int width = m_splitter->sizes().front(); width > 0)
         m_sideViewWidth = width;
     const int side = shown ? std::min(m_sideViewWidth, widestSideView()) : 0;
@@ -322,27 +328,28 @@ QByteArray MainWindow::tabsSplitterState() const
 
 void MainWindow::restoreTabsSplitter(const QByteArray& state)
 {
-    if (!m_tabsSplitter->restoreState(state))
-        setTabsShown(true);
+    m_tabsAreFresh = !m_tabsSplitter->restoreState(state);
     validateAreaItems();
+}
+
+void MainWindow::showEvent(QShowEvent* event)
+{
+    QMainWindow::showEvent(event);
+    if (std::exchange(m_tabsAreFresh, false)) // not before there is a height to divide
+        setTabsHeight(smallestTabs());
 }
 
 void MainWindow::setTabsShown(bool shown)
 {
-    if (!shown)
-        leaveArea(*m_graphTabs);
     if (const int height = m_tabsSplitter->sizes().back(); height > 0)
         m_tabsHeight = height;
-    const int tabs = shown ? m_tabsHeight : 0;
-    m_tabsSplitter->setSizes({std::max(m_tabsSplitter->height() - tabs, kSmallestTable), tabs});
-    validateAreaItems();
+    setTabsHeight(shown ? std::max(m_tabsHeight, smallestTabs()) : 0);
 }
 
-/// An area that goes does not keep the keyboard.
-void MainWindow::leaveArea(const QWidget& area)
+void MainWindow::setTabsHeight(int height)
 {
-    if (focusWidget() == &area || area.isAncestorOf(focusWidget()))
-        m_networksView->setFocus();
+    m_tabsSplitter->setSizes({std::max(m_tabsSplitter->height() - height, kSmallestTable), height});
+    validateAreaItems();
 }
 
 int MainWindow::widestSideView() const
@@ -358,21 +365,31 @@ void MainWindow::limitSideView()
     validateAreaItems();
 }
 
-void MainWindow::limitTabs()
+int MainWindow::smallestTabs() const
 {
     const int room = m_tabsSplitter->height() - m_tabsSplitter->handleWidth();
-    const int smallest =
-        std::clamp(room - kRoomyTable, m_graphTabs->minimumHeight(), kSmallestTabs);
+    return std::clamp(room - kRoomyTable, m_graphTabs->minimumHeight(), kSmallestTabs);
+}
+
+void MainWindow::limitTabs()
+{
     const int tabs = m_tabsSplitter->sizes().back();
-    if (tabs > 0 && tabs < smallest)
-        m_tabsSplitter->setSizes({room - smallest, smallest});
-    validateAreaItems();
+    setTabsHeight(tabs > 0 ? std::max(tabs, smallestTabs()) : 0);
 }
 
 void MainWindow::validateAreaItems()
 {
-    m_menu->sideViewItem().setChecked(m_splitter->sizes().front() > 0);
-    m_menu->lowerHalfItem().setChecked(m_tabsSplitter->sizes().back() > 0);
+    validateArea(*m_sideView, m_menu->sideViewItem(), m_splitter->sizes().front() > 0);
+    validateArea(*m_graphTabs, m_menu->lowerHalfItem(), m_tabsSplitter->sizes().back() > 0);
+}
+
+/// An area that is not shown is also out of the keyboard's reach.
+void MainWindow::validateArea(QWidget& area, QAction& item, bool isShown)
+{
+    if (!isShown && (focusWidget() == &area || area.isAncestorOf(focusWidget())))
+        m_networksView->setFocus();
+    area.setEnabled(isShown);
+    item.setChecked(isShown);
 }
 
 void MainWindow::takeFirstRunFrame()

@@ -7,6 +7,7 @@
 
 #include <optional>
 
+class QAction;
 class QComboBox;
 class QLabel;
 class QSplitter;
@@ -70,6 +71,8 @@ Q_SIGNALS:
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void changeEvent(QEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dragMoveEvent(QDragMoveEvent* event) override;
     void dropEvent(QDropEvent* event) override;
@@ -82,10 +85,12 @@ private:
     void makeFooter();
     void setSideViewShown(bool shown);
     void setTabsShown(bool shown);
-    void leaveArea(const QWidget& area);
+    void setTabsHeight(int height);
     int widestSideView() const;
     void limitSideView();
+    int smallestTabs() const;
     void limitTabs();
+    void validateArea(QWidget& area, QAction& item, bool isShown);
     void validateAreaItems();
 
     QSplitter* m_splitter;
@@ -95,7 +100,8 @@ private:
     GraphTabs* m_graphTabs;
     MainMenu* m_menu;
     int m_sideViewWidth = 220; ///< of each area when it shows again
-    int m_tabsHeight = 400;
+    int m_tabsHeight = 0;
+    bool m_tabsAreFresh = false;
     ActivityIndicator* m_activityIndicator = nullptr;
     ElidedLabel* m_info = nullptr;
     ElidedLabel* m_leftFooter = nullptr;

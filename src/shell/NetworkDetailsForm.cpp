@@ -3,6 +3,7 @@
 #include "charts/TSThemeHelper.h"
 #include "foundation/Localized.h"
 #include "shell/ColorWell.h"
+#include "shell/ElidedLabel.h"
 #include "shell/GlyphIcon.h"
 #include "shell/LegibleColor.h"
 #include "shell/NetworkDetailsText.h"
@@ -78,6 +79,9 @@ NetworkDetailsForm::NetworkDetailsForm(QWidget* parent)
     setWidgetResizable(true);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setFocusPolicy(Qt::NoFocus);
+    connect(verticalScrollBar(), &QScrollBar::rangeChanged, this, [this](int, int end) {
+        setFocusPolicy(end > 0 ? Qt::TabFocus : Qt::NoFocus); // for the keys that scroll
+    });
     setFixedWidth(kWidth * fontMetrics().averageCharWidth());
     m_placeholder = new QLabel(localized("Select a network"));
     m_placeholder->setAlignment(Qt::AlignCenter);
@@ -109,8 +113,8 @@ void NetworkDetailsForm::paletteDidChange()
 
 void NetworkDetailsForm::makeForm()
 {
-    auto* form = new QWidget;
-    m_grid = new QGridLayout(form);
+    m_form = new QWidget;
+    m_grid = new QGridLayout(m_form);
     m_grid->setContentsMargins(kMargin, kMargin / 2, kMargin, kMargin / 2);
     m_grid->setVerticalSpacing(kRowSpacing);
     m_grid->setHorizontalSpacing(kMargin / 2);
@@ -119,7 +123,7 @@ void NetworkDetailsForm::makeForm()
 
     m_networkColorWell = new ColorWell;
     connect(m_networkColorWell, &QToolButton::clicked, this, &NetworkDetailsForm::askForColor);
-    m_ssidLbl = makeValue();
+    m_ssidLbl = new ElidedLabel;
     QFont bold = m_ssidLbl->font();
     bold.setBold(true);
     bold.setPointSizeF(bold.pointSizeF() * kNameSize);
@@ -130,8 +134,6 @@ void NetworkDetailsForm::makeForm()
     m_vendor = addRow("Vendor"_en);
     m_vendor.value->setTextFormat(Qt::RichText);
     m_vendor.value->setOpenExternalLinks(true);
-    m_vendor.value->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::LinksAccessibleByMouse |
-                                            Qt::LinksAccessibleByKeyboard);
     m_vendor.value->unsetCursor(); // a link has its own
     addSpace();
     makeSignalRows();
@@ -146,13 +148,14 @@ void NetworkDetailsForm::makeForm()
     addSpace();
     m_security = addRow("Security"_en);
     m_iconSecurityImg = addIcon(m_security);
+    m_iconSecurityImg->setAccessibleName(localized("Secured"));
     m_encryption = addRow("Encryption"_en);
     m_wps = addRow("WPS"_en);
     addSpace();
     m_rates = addRow("Basic Rates"_en);
     m_maxRate = addRow("Max Rate"_en);
     m_grid->setRowStretch(m_grid->rowCount(), 1);
-    m_pages->addWidget(form);
+    m_pages->addWidget(m_form);
 }
 
 /// The readings of now, and beside them those of all the time.
@@ -180,6 +183,7 @@ void NetworkDetailsForm::makeSignalRows()
     m_signalQuality = addRow("Quality"_en);
     m_iconSignalQualityImg = addIcon(m_signalQuality);
     m_iconSignalQualityImg->setToolTip(localized("The signal is weak beside the noise"));
+    m_iconSignalQualityImg->setAccessibleName(m_iconSignalQualityImg->toolTip());
 }
 
 NetworkDetailsForm::Row NetworkDetailsForm::addRow(EnglishText caption)
@@ -188,7 +192,7 @@ NetworkDetailsForm::Row NetworkDetailsForm::addRow(EnglishText caption)
     const int place = m_grid->rowCount();
     m_grid->addWidget(row.caption, place, kCaption);
     m_grid->addWidget(row.value, place, kValue, 1, 2);
-    row.value->setAccessibleName(localized(caption));
+    row.value->setAccessibleDescription(localized(caption)); // its name is what it shows
     return row;
 }
 
@@ -213,6 +217,11 @@ void NetworkDetailsForm::addSpace()
 void NetworkDetailsForm::Row::setText(const QString& text) const
 {
     value->setText(text);
+}
+
+void NetworkDetailsForm::Row::setTextOrHide(const QString& text) const
+{
+    setText(text);
     caption->setVisible(!text.isEmpty());
     value->setVisible(!text.isEmpty());
 }
@@ -235,6 +244,9 @@ void NetworkDetailsForm::setNetwork(const NetworkPtr& network, const CellContext
     m_context = context;
     if (network)
         fill(*network, context);
+    // What is not in sight asks for no room.
+    const auto policy = network ? QSizePolicy::Preferred : QSizePolicy::Ignored;
+    m_form->setSizePolicy(policy, policy);
     m_pages->setCurrentIndex(network ? 1 : 0);
 }
 
@@ -244,16 +256,16 @@ void NetworkDetailsForm::fill(const TSNetwork& network, const CellContext& conte
     m_networkColorWell->setColor(network.color());
     m_ssidLbl->setText(text.ssid);
     m_bssid.setText(text.bssid);
-    m_vendor.setText(vendorText(text.vendor));
+    fillVendor(text.vendor);
     m_band.setText(text.band);
     m_channel.setText(underlined(text.channel));
     m_width.setText(text.width);
     m_mode.setText(text.mode);
     m_networkType.setText(text.networkType);
-    m_beaconInterval.setText(text.beaconInterval);
+    m_beaconInterval.setTextOrHide(text.beaconInterval);
     m_security.setText(text.security);
     m_iconSecurityImg->setVisible(!network.isOpen());
-    m_encryption.setText(text.encryption);
+    m_encryption.setTextOrHide(text.encryption);
     m_wps.setText(text.wps);
     m_rates.setText(text.rates);
     m_maxRate.setText(text.maxRate);
@@ -285,14 +297,17 @@ void NetworkDetailsForm::fillSignal(const TSNetwork& network, const CellContext&
 }
 
 /// As a link where the vendor's web site is known.
-QString NetworkDetailsForm::vendorText(const QString& vendor) const
+void NetworkDetailsForm::fillVendor(const QString& vendor)
 {
-    QString name = vendor.toHtmlEscaped();
-    const auto url = m_urlForVendor ? m_urlForVendor(vendor) : std::nullopt;
-    if (!url)
-        return name;
-    return withLegibleLinks(QStringLiteral("<a href=\"%1\">%2</a>").arg(url->toHtmlEscaped(), name),
-                            palette());
+    QString text = vendor.toHtmlEscaped();
+    Qt::TextInteractionFlags flags = Qt::TextSelectableByMouse;
+    if (const auto url = m_urlForVendor ? m_urlForVendor(vendor) : std::nullopt) {
+        const auto link = QStringLiteral("<a href=\"%1\">%2</a>").arg(url->toHtmlEscaped(), text);
+        text = withLegibleLinks(link, palette());
+        flags |= Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard;
+    }
+    m_vendor.setText(text);
+    m_vendor.value->setTextInteractionFlags(flags);
 }
 
 } // namespace tessara

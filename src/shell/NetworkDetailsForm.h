@@ -16,6 +16,7 @@ class QStackedWidget;
 namespace tessara {
 
 class ColorWell;
+class ElidedLabel;
 
 /// The selected network in words: captions and values, and the colour it is drawn in.
 class NetworkDetailsForm final : public QScrollArea {
@@ -39,11 +40,12 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
-    /// A caption and its value, hidden together where there is no value.
     struct Row {
         QLabel* caption;
         QLabel* value;
         void setText(const QString& text) const;
+        /// Hides both where there is no value.
+        void setTextOrHide(const QString& text) const;
     };
 
     Row addRow(EnglishText caption);
@@ -55,16 +57,17 @@ private:
     void makeSignalRows();
     void fill(const TSNetwork& network, const CellContext& context);
     void fillSignal(const TSNetwork& network, const CellContext& context);
-    QString vendorText(const QString& vendor) const;
+    void fillVendor(const QString& vendor);
 
     VendorURL m_urlForVendor;
     NetworkPtr m_network; ///< that is shown
     CellContext m_context;
     QStackedWidget* m_pages;
     QLabel* m_placeholder = nullptr;
+    QWidget* m_form = nullptr;
     QGridLayout* m_grid = nullptr;
     ColorWell* m_networkColorWell = nullptr;
-    QLabel* m_ssidLbl = nullptr;
+    ElidedLabel* m_ssidLbl = nullptr;
     Row m_bssid{};
     Row m_vendor{};
     Row m_rssi{};

@@ -4,6 +4,7 @@
 #include "persistence/ClipboardText.h"
 #include "shell/HeaderMenu.h"
 #include "shell/InfoElementDelegate.h"
+#include "shell/TableHeader.h"
 #include "shell/TreeViews.h"
 
 #include <QClipboard>
@@ -46,6 +47,7 @@ TSAdvancedDetailsView::TSAdvancedDetailsView(QWidget* parent)
     setEditTriggers(NoEditTriggers);
     setVerticalScrollMode(ScrollPerPixel);
     setFrameShape(QFrame::NoFrame);
+    setHeader(new TableHeader);
     setUpHeader();
     connect(this, &QTreeView::expanded, this, [this](const QModelIndex& index) {
         m_expandedItems.insert(InfoElementsModel::rowAt(index).identifier);
@@ -65,16 +67,16 @@ TSAdvancedDetailsView::TSAdvancedDetailsView(QWidget* parent)
 void TSAdvancedDetailsView::setUpHeader()
 {
     QHeaderView& header = *this->header();
-    header.setSectionsMovable(true);
     header.setFirstSectionMovable(true);
-    header.setDefaultAlignment(Qt::AlignCenter);
-    header.setHighlightSections(false);
     header.setStretchLastSection(true);
     header.setSortIndicatorClearable(true); // back to the order of the beacon
-    connect(&header, &QHeaderView::sortIndicatorChanged, this, [&header](int column) {
-        if (column == InfoElementsModel::kFieldsColumn) // says nothing to sort by
-            header.setSortIndicator(-1, Qt::AscendingOrder);
-    });
+    connect(&header, &QHeaderView::sortIndicatorChanged, this,
+            [this, &header](int column, Qt::SortOrder order) {
+                if (column == InfoElementsModel::kFieldsColumn) // says nothing to sort by
+                    header.setSortIndicator(m_sortColumn, m_sortOrder);
+                else
+                    std::tie(m_sortColumn, m_sortOrder) = std::tuple(column, order);
+            });
     header.setSortIndicator(-1, Qt::AscendingOrder);
     setSortingEnabled(true);
     QFont font = this->font();
@@ -83,7 +85,6 @@ void TSAdvancedDetailsView::setUpHeader()
     header.resizeSection(InfoElementsModel::kIDColumn, kIDWidth * character);
     header.resizeSection(InfoElementsModel::kLengthColumn, kLengthWidth * character);
     header.resizeSection(InfoElementsModel::kElementColumn, kElementWidth * character);
-    header.setContextMenuPolicy(Qt::CustomContextMenu);
     connect(&header, &QHeaderView::customContextMenuRequested, this,
             &TSAdvancedDetailsView::showHeaderMenu);
 }
@@ -171,9 +172,8 @@ void TSAdvancedDetailsView::contextMenuEvent(QContextMenuEvent* event)
     menu.addAction(localized("Expand Item"), this, [this, clicked] { expand(clicked); })
         ->setEnabled(expandable && !expanded);
     menu.addAction(localized("Expand All Items"), this, [this] { setAllExpanded(true); });
-    menu.addAction(
-            localized("Collapse Item"), this,
-            [this, clicked, element, expandable] { collapse(expandable ? clicked : element); })
+    // Of a field it is meant to close the whole element.
+    menu.addAction(localized("Collapse Item"), this, [this, element] { collapse(element); })
         ->setEnabled(expandable && expanded);
     menu.addAction(localized("Collapse All Items"), this, [this] { setAllExpanded(false); });
     menu.addSeparator();

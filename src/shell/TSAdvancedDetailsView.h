@@ -48,6 +48,8 @@ private:
     InfoElementsModel m_model;
     QSet<QString> m_expandedItems;
     QString m_placeholderText;
+    int m_sortColumn = -1;
+    Qt::SortOrder m_sortOrder = Qt::AscendingOrder;
     bool m_isReloading = false; ///< what collapses is not collapsed by the user
 };
 

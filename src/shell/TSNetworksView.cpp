@@ -4,6 +4,7 @@
 #include "shell/ColumnLayout.h"
 #include "shell/HeaderMenu.h"
 #include "shell/NetworkCellDelegate.h"
+#include "shell/TableHeader.h"
 #include "shell/TreeViews.h"
 
 #include <QApplication>
@@ -12,6 +13,7 @@
 #include <QMenu>
 #include <QPainter>
 #include <QScopedValueRollback>
+#include <QScrollBar>
 
 #include <algorithm>
 #include <cmath>
@@ -80,6 +82,7 @@ TSNetworksView::TSNetworksView(QWidget* parent)
     setFrameShape(QFrame::NoFrame);
     setItemDelegate(m_delegate);
     setModel(&m_model);
+    setHeader(new TableHeader);
     setUpHeader();
     setDefaultLayout();
 }
@@ -87,18 +90,13 @@ TSNetworksView::TSNetworksView(QWidget* parent)
 void TSNetworksView::setUpHeader()
 {
     QHeaderView& header = *this->header();
-    header.setSectionsMovable(true);
     header.setSectionsClickable(true);
     header.setSortIndicatorShown(true);
-    header.setDefaultAlignment(Qt::AlignCenter);
-    header.setTextElideMode(Qt::ElideRight);
     header.setStretchLastSection(false);
-    header.setHighlightSections(false);
     // The marker stays at the left edge and as narrow as it is.
     header.setFirstSectionMovable(false);
     header.setMinimumSectionSize(static_cast<int>(columns().front().minimumWidth));
     header.setSectionResizeMode(0, QHeaderView::Fixed);
-    header.setContextMenuPolicy(Qt::CustomContextMenu);
     connect(&header, &QHeaderView::customContextMenuRequested, this,
             &TSNetworksView::showHeaderMenu);
     connect(&header, &QHeaderView::sectionResized, this,
@@ -151,19 +149,23 @@ std::vector<bool> TSNetworksView::selectedRows() const
     return rows;
 }
 
-/// A network that comes back is selected as it was; rows that stayed are selected already.
+/// Selects the rows whose networks are: one that comes back is selected as it was.
 void TSNetworksView::selectHighlightedNetworks()
 {
     const std::vector<bool> isSelected = selectedRows();
-    QItemSelection missing;
+    QItemSelection highlighted;
+    bool differs = false;
     for (std::size_t row = 0; row < isSelected.size(); ++row) {
-        if (isSelected[row] || !m_model.networks()[row]->isUserHighlighted())
-            continue;
-        const QModelIndex index = m_model.index(static_cast<int>(row), 0);
-        missing.select(index, index);
+        const bool isHighlighted = m_model.networks()[row]->isUserHighlighted();
+        differs = differs || isHighlighted != isSelected[row];
+        if (isHighlighted) {
+            const QModelIndex index = m_model.index(static_cast<int>(row), 0);
+            highlighted.select(index, index);
+        }
     }
-    if (!missing.isEmpty())
-        selectionModel()->select(missing, QItemSelectionModel::Select | QItemSelectionModel::Rows);
+    if (differs)
+        selectionModel()->select(highlighted,
+                                 QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
 }
 
 void TSNetworksView::setFilteredColumns(const FilterIdentifiers& columns)
@@ -200,6 +202,14 @@ void TSNetworksView::selectNetworks(const std::function<bool(const TSNetwork&)>&
                              QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
     if (first.isValid())
         scrollTo(first);
+}
+
+/// Shows the row; the columns in sight stay where they are.
+void TSNetworksView::scrollTo(const QModelIndex& index, ScrollHint hint)
+{
+    const int scrolled = horizontalScrollBar()->value();
+    QTreeView::scrollTo(index, hint);
+    horizontalScrollBar()->setValue(scrolled);
 }
 
 void TSNetworksView::selectionChanged(const QItemSelection& selected,
@@ -246,7 +256,7 @@ void TSNetworksView::editAnnotations()
     if (isColumnHidden(note.column()))
         setColumnShown(annotationsColumn(), true);
     selectionModel()->setCurrentIndex(note, QItemSelectionModel::NoUpdate);
-    scrollTo(note);
+    QTreeView::scrollTo(note);
     edit(note);
 }
 

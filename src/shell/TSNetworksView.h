@@ -68,6 +68,8 @@ public:
     /// Fills a menu with one checkable item a column, by title.
     void addColumnItems(QMenu& menu);
 
+    void scrollTo(const QModelIndex& index, ScrollHint hint = EnsureVisible) override;
+
 Q_SIGNALS:
     /// The user has selected other networks.
     void selectionDidChange();

@@ -29,8 +29,9 @@ namespace {
 std::unique_ptr<QCoreApplication> makeApplication(int& argc, char** argv)
 {
     const std::set<std::string_view> questions{"-h", "--help", "--help-all", "-v", "--version"};
+    char** const end = std::find(argv, argv + argc, std::string_view("--"));
     const bool asks =
-        std::any_of(argv, argv + argc, [&](const char* word) { return questions.contains(word); });
+        std::any_of(argv, end, [&](const char* word) { return questions.contains(word); });
     if (asks)
         return std::make_unique<QCoreApplication>(argc, argv);
     return std::make_unique<QApplication>(argc, argv);
@@ -59,7 +60,10 @@ int main(int argc, char** argv)
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/tessara.svg")));
     // The main window alone decides when the process ends.
     QApplication::setQuitOnLastWindowClosed(false);
-    if (const QString error = applySettingsOptions(parser); !error.isEmpty()) {
+    QString error = applySettingsOptions(parser);
+    if (parser.positionalArguments().size() > 1)
+        error = QStringLiteral("one file at a time");
+    if (!error.isEmpty()) {
         QTextStream(stderr) << "tessara: " << error << Qt::endl;
         return 2;
     }

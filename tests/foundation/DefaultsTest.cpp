@@ -89,6 +89,11 @@ TEST(Defaults, TellsItsObserversOfChangesOnly)
     defaults.setValue(DefaultKey::Units, 1);
     defaults.remove(DefaultKey::FilterString);
     EXPECT_EQ(spy.size(), 1);
+
+    defaults.overrideForThisRun(DefaultKey::Units, QStringLiteral("0"));
+    spy.clear();
+    defaults.setValue(DefaultKey::Units, 1); // as it is stored, but not as it was read
+    EXPECT_EQ(spy.size(), 1);
 }
 
 TEST(Defaults, TakesOverridesAsAUserTypesThem)

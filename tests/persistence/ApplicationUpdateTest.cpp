@@ -6,9 +6,12 @@
 #include "foundation/Defaults.h"
 #include "support/ManualClock.h"
 
+#include <QDateTime>
 #include <QTest>
 
 #include <gmock/gmock.h>
+
+#include <cmath>
 
 using namespace tessara;
 using testing::HasSubstr;
@@ -31,10 +34,9 @@ protected:
         writeFile(s_server->filePath("version"), answer);
         ApplicationUpdate update(
             user, clock, {s_server->url(QStringLiteral("/file/version")), s_server->trusting()});
+        update.checkForUpdatesIfDue();
         if (isAskedFor)
             update.checkForUpdates();
-        else
-            update.checkForUpdatesIfDue();
         EXPECT_TRUE(QTest::qWaitFor([&] { return clock.activeTimers() == 0; }, 20'000));
         const auto seen = user.finished();
         return seen.empty() ? std::string() : seen.back();
@@ -69,6 +71,8 @@ TEST_F(ApplicationUpdateTest, ChecksByItselfOnlyAsOftenAsWanted)
     EXPECT_EQ(found("99", false), "") << "it was not wanted";
     defaults.setValue(DefaultKey::CheckForUpdates, true);
     defaults.setValue(DefaultKey::UpdateCheckInterval, 86400);
+    EXPECT_THAT(found("0.0.1"), HasSubstr("up-to-date!")) << "also while it looks by itself";
+    defaults.remove(DefaultKey::LastUpdateCheck);
     EXPECT_THAT(found("99", false), HasSubstr("Version 99"));
     clock.advance(86399);
     EXPECT_EQ(found("99", false), "");
@@ -76,4 +80,7 @@ TEST_F(ApplicationUpdateTest, ChecksByItselfOnlyAsOftenAsWanted)
     EXPECT_THAT(found("99", false), HasSubstr("Version 99"));
     clock.advance(86400);
     EXPECT_EQ(found("x", false), "") << "only news are told unasked";
+    defaults.setValue(DefaultKey::LastUpdateCheck,
+                      QDateTime::fromSecsSinceEpoch(std::llround(clock.now()) + 1000));
+    EXPECT_THAT(found("99", false), HasSubstr("Version 99")) << "the clock was wrong once";
 }

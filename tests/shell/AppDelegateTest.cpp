@@ -178,6 +178,7 @@ TEST_F(AppDelegateTest, NarrowsTheListByLineKindAndKeys)
     QTest::keyClick(&delegate->window(), Qt::Key_Escape);
     EXPECT_THAT(names(), ElementsAre("Home", "Work"));
 
+    action("&Side View").trigger();
     TSSideView& sideView = delegate->window().sideView();
     const QModelIndex byName = sideView.model()->index(2, 0);
     sideView.setCurrentIndex(sideView.model()->index(1, 0, byName));
@@ -185,6 +186,11 @@ TEST_F(AppDelegateTest, NarrowsTheListByLineKindAndKeys)
     EXPECT_EQ(sideView.model()->rowCount(byName), 2) << "it counts what it hides";
     QTest::mouseClick(sideView.viewport(), Qt::LeftButton, {},
                       sideView.visualRect(sideView.model()->index(0, 0)).center());
+    EXPECT_THAT(names(), ElementsAre("Home", "Work"));
+    sideView.setCurrentIndex(sideView.model()->index(1, 0, byName));
+    EXPECT_THAT(names(), ElementsAre("Work"));
+    sideView.selectionModel()->select(sideView.currentIndex(),
+                                      QItemSelectionModel::Deselect | QItemSelectionModel::Rows);
     EXPECT_THAT(names(), ElementsAre("Home", "Work"));
     auto* quickFilter = window().findChild<QComboBox*>(QStringLiteral("QuickFilter"));
     Q_EMIT quickFilter->activated(2); // secure networks

@@ -310,7 +310,13 @@ TEST_F(FileCommandsTest, CopyAndPasteAreForWhatHasTheKeyboard)
     EXPECT_TRUE(action("&Copy").isEnabled());
     action("Select A&ll").trigger();
     EXPECT_EQ(table().selectedItems().size(), 1U);
+    action("&Side View").trigger();
     window().sideView().setFocus();
     settle();
     EXPECT_FALSE(action("&Copy").isEnabled());
+
+    action("&Side View").trigger();
+    settle();
+    EXPECT_TRUE(table().hasFocus()) << "an area that is shut has no keyboard";
+    EXPECT_FALSE(window().sideView().isEnabled());
 }

@@ -158,6 +158,17 @@ TEST_F(GraphTabsTest, OpenWithTheTabThatWasLeft)
         next.findChild<QTabBar*>()->isTabEnabled(next.findChild<QTabBar*>()->currentIndex()));
 }
 
+TEST_F(GraphTabsTest, FollowEachOtherInARound)
+{
+    tabs.selectGraph(2);
+    item("&Next Tab").trigger();
+    EXPECT_TRUE(item("Advanced Details").isChecked());
+    item("&Next Tab").trigger();
+    EXPECT_TRUE(item("Network Details").isChecked());
+    item("&Previous Tab").trigger();
+    EXPECT_TRUE(item("Advanced Details").isChecked());
+}
+
 TEST_F(GraphTabsTest, ShowTheSpectrumWhichKnowsNoTime)
 {
     const NetworkList networks = testNetworks(3);

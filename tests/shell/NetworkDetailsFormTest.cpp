@@ -15,7 +15,7 @@ namespace {
 const QLabel* label(const NetworkDetailsForm& form, const char* name)
 {
     for (const QLabel* each : form.findChildren<QLabel*>()) {
-        if (each->accessibleName() == QLatin1String(name))
+        if (each->accessibleDescription() == QLatin1String(name))
             return each;
     }
     throw std::out_of_range(name);

@@ -141,6 +141,10 @@ TEST_F(NetworksViewTest, SelectsANetworkAgainThatLeavesTheListAndComesBack)
     click(0);
     show(networks);
     EXPECT_EQ(selected().size(), 2U);
+
+    networks[3]->setUserHighlighted(false); // as another kind of networks is asked for
+    show(networks);
+    EXPECT_EQ(selected().size(), 1U);
 }
 
 TEST_F(NetworksViewTest, MovesByArrowsClearsByEscapeAndIgnoresLetters)
@@ -162,10 +166,12 @@ TEST_F(NetworksViewTest, SelectsTheNetworksOfAConditionAndScrollsToTheFirst)
 {
     show(networks);
     networks[120]->setAssociated(true);
+    view.horizontalScrollBar()->setValue(70);
     view.selectNetworks([](const TSNetwork& network) { return network.isAssociated(); });
     EXPECT_THAT(selected(), ElementsAre(networks[120]));
     EXPECT_TRUE(view.viewport()->rect().contains(
-        view.visualRect(view.model()->index(120, columnNumber(u"BSSID"))).center()));
+        view.visualRect(view.model()->index(120, columnNumber(u"VENDOR"))).center()));
+    EXPECT_EQ(view.horizontalScrollBar()->value(), 70) << "the columns stay where they are";
     view.selectNetworks([](const TSNetwork&) { return false; });
     EXPECT_TRUE(selected().empty());
 }
