@@ -80,6 +80,7 @@ TSSignalStrengthView::TSSignalStrengthView(const Clock& clock, QWidget* parent)
     setAttribute(Qt::WA_OpaquePaintEvent);
     setAttribute(Qt::WA_AcceptTouchEvents);
     grabGesture(Qt::PinchGesture);
+    connect(&m_picture, &KeptPicture::didPaint, this, qOverload<>(&QWidget::update));
 }
 
 TSSignalStrengthView::~TSSignalStrengthView() = default;
@@ -196,7 +197,7 @@ QSize TSSignalStrengthView::minimumSizeHint() const
 
 void TSSignalStrengthView::setNeedsDisplay()
 {
-    m_picture = {};
+    m_picture.invalidate();
     update();
 }
 
@@ -216,17 +217,12 @@ void TSSignalStrengthView::paint(QPainter& painter)
 
 void TSSignalStrengthView::paintEvent(QPaintEvent* /*event*/)
 {
-    const PictureKey key{size(), devicePixelRatioF(), window()->size(), hasRecentScan()};
-    if (m_picture.isNull() || m_pictureKey != key) {
-        m_picture = QPixmap((QSizeF(size()) * key.pixelRatio).toSize());
-        m_picture.setDevicePixelRatio(key.pixelRatio);
-        m_pictureKey = key;
-        QPainter painter(&m_picture);
-        turnUpright(painter, height());
-        drawRect(painter, viewRect());
-    }
     QPainter painter(this);
-    painter.drawPixmap(0, 0, m_picture);
+    m_picture.draw(painter, {size(), devicePixelRatioF(), window()->size(), hasRecentScan()},
+                   [this](QPainter& picture) {
+                       turnUpright(picture, height());
+                       drawRect(picture, viewRect());
+                   });
     turnUpright(painter, height());
     drawHover(painter, viewRect());
 }

@@ -3,11 +3,11 @@
 #include "charts/ChartFrame.h"
 #include "charts/ChartScale.h"
 #include "charts/HoverSearch.h"
+#include "charts/KeptPicture.h"
 #include "charts/WindowScale.h"
 #include "foundation/Clock.h"
 #include "model/TSNetwork.h"
 
-#include <QPixmap>
 #include <QWidget>
 
 #include <limits>
@@ -137,16 +137,6 @@ protected:
     void wheelEvent(QWheelEvent* event) override;
 
 private:
-    /// What the kept picture was painted for.
-    struct PictureKey {
-        QSize size;
-        double pixelRatio;
-        QSize window;
-        bool isNow;
-
-        bool operator==(const PictureKey&) const = default;
-    };
-
     void drawLabels(QPainter& painter, const ChartScale& scale, const NetworkList& networks,
                     const RadioMerge* merge) const;
     void drawLines(QPainter& painter, const ChartScale& scale, const NetworkList& networks) const;
@@ -177,8 +167,7 @@ private:
     QPointF m_pressed;                 ///< where a drag may begin
     bool m_dragInProgress = false;
 
-    QPixmap m_picture; ///< what does not follow the mouse
-    PictureKey m_pictureKey{};
+    KeptPicture m_picture; ///< what does not follow the mouse
 };
 
 } // namespace tessara

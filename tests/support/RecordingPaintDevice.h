@@ -1,10 +1,6 @@
 #pragma once
 
-#include <QPaintDevice>
-#include <QPaintEngine>
-#include <QPainterPath>
-#include <QPen>
-#include <QString>
+#include "charts/PaintRecording.h"
 
 #include <algorithm>
 #include <iterator>
@@ -59,124 +55,46 @@ struct Painting {
 };
 
 /// Remembers what is painted on it, in its order, and shows nothing.
-class RecordingPaintDevice final : public QPaintDevice {
+class RecordingPaintDevice final : public PaintRecorder {
 public:
     explicit RecordingPaintDevice(const QSize& size)
-        : m_size(size)
-        , m_engine(*this)
+        : PaintRecorder(size, 72)
     {
     }
 
-    QPaintEngine* paintEngine() const override { return &m_engine; }
-
-    const Painting& painting() const { return m_painting; }
-
-protected:
-    int metric(PaintDeviceMetric metric) const override
+    Painting painting() const
     {
-        switch (metric) {
-        case PdmWidth:
-            return m_size.width();
-        case PdmHeight:
-            return m_size.height();
-        case PdmDpiX:
-        case PdmDpiY:
-        case PdmPhysicalDpiX:
-        case PdmPhysicalDpiY:
-            return 72;
-        case PdmDevicePixelRatio:
-            return 1;
-        case PdmDevicePixelRatioScaled:
-            return static_cast<int>(devicePixelRatioFScale());
-        default:
-            return QPaintDevice::metric(metric);
+        Painting painting;
+        PaintRecording::State state;
+        QTransform toChart;
+        const auto add = [&](Painted::Kind kind, const QPainterPath& path, QColor color) {
+            color.setAlphaF(static_cast<float>(color.alphaF() * state.opacity));
+            painting.items.push_back({kind,
+                                      toChart.map(path),
+                                      state.pen,
+                                      color,
+                                      state.hints.testFlag(QPainter::Antialiasing),
+                                      {},
+                                      state.font,
+                                      {}});
+        };
+        for (const PaintRecording::Step& step : recording().steps()) {
+            if (const auto* next = std::get_if<PaintRecording::State>(&step)) {
+                state = *next;
+                toChart = state.transform * QTransform(1, 0, 0, -1, 0, height());
+            } else if (const auto* path = std::get_if<QPainterPath>(&step)) {
+                if (state.brush.style() != Qt::NoBrush)
+                    add(Painted::Kind::kFill, *path, state.brush.color());
+                if (state.pen.style() != Qt::NoPen)
+                    add(Painted::Kind::kStroke, *path, state.pen.color());
+            } else if (const auto* text = std::get_if<PaintRecording::Text>(&step)) {
+                add(Painted::Kind::kText, {}, state.pen.color());
+                painting.items.back().text = text->text;
+                painting.items.back().origin = toChart.map(text->origin);
+            }
         }
+        return painting;
     }
-
-private:
-    class Engine final : public QPaintEngine {
-    public:
-        explicit Engine(RecordingPaintDevice& device)
-            : QPaintEngine(AllFeatures)
-            , m_device(device)
-        {
-        }
-
-        bool begin(QPaintDevice* /*device*/) override { return true; }
-        bool end() override { return true; }
-        Type type() const override { return User; }
-
-        void updateState(const QPaintEngineState& state) override
-        {
-            m_toChart = state.transform() * QTransform(1, 0, 0, -1, 0, m_device.m_size.height());
-            m_pen = state.pen();
-            m_brush = state.brush();
-            m_opacity = state.opacity();
-            m_isAntialiased = state.renderHints().testFlag(QPainter::Antialiasing);
-        }
-
-        void drawPath(const QPainterPath& path) override
-        {
-            const QPainterPath mapped = m_toChart.map(path);
-            if (m_brush.style() != Qt::NoBrush)
-                m_device.add(Painted::Kind::kFill, mapped, seen(m_brush.color()), m_pen,
-                             m_isAntialiased);
-            if (m_pen.style() != Qt::NoPen)
-                m_device.add(Painted::Kind::kStroke, mapped, seen(m_pen.color()), m_pen,
-                             m_isAntialiased);
-        }
-
-        void drawPolygon(const QPointF* points, int count, PolygonDrawMode mode) override
-        {
-            QPainterPath path(points[0]);
-            for (int i = 1; i < count; ++i)
-                path.lineTo(points[i]);
-            if (mode != PolylineMode)
-                path.closeSubpath();
-            drawPath(path);
-        }
-
-        void drawTextItem(const QPointF& origin, const QTextItem& item) override
-        {
-            m_device.m_painting.items.push_back({Painted::Kind::kText,
-                                                 {},
-                                                 {},
-                                                 seen(m_pen.color()),
-                                                 m_isAntialiased,
-                                                 item.text(),
-                                                 item.font(),
-                                                 m_toChart.map(origin)});
-        }
-
-        void drawPixmap(const QRectF& /*to*/, const QPixmap& /*pixmap*/,
-                        const QRectF& /*from*/) override
-        {
-        }
-
-    private:
-        QColor seen(QColor color) const
-        {
-            color.setAlphaF(static_cast<float>(color.alphaF() * m_opacity));
-            return color;
-        }
-
-        RecordingPaintDevice& m_device;
-        QTransform m_toChart;
-        QPen m_pen;
-        QBrush m_brush;
-        double m_opacity = 1;
-        bool m_isAntialiased = false;
-    };
-
-    void add(Painted::Kind kind, const QPainterPath& path, const QColor& color, const QPen& pen,
-             bool isAntialiased)
-    {
-        m_painting.items.push_back({kind, path, pen, color, isAntialiased, {}, {}, {}});
-    }
-
-    QSize m_size;
-    Painting m_painting;
-    mutable Engine m_engine;
 };
 
 } // namespace tessara

@@ -1,0 +1,64 @@
+#include "charts/KeptPicture.h"
+
+#include "charts/TSThemeHelper.h"
+
+#include <QFuture>
+#include <QImage>
+#include <QtConcurrentRun>
+
+namespace tessara {
+
+namespace {
+
+/// What is painted within a frame of the screen is painted at once.
+constexpr qsizetype kLargestCostAtOnce = 5000;
+
+QImage imageOf(const PaintRecording& recording, const KeptPicture::Key& key, int dotsPerInch)
+{
+    constexpr double kInch = 0.0254; // metres
+    QImage image((QSizeF(key.size) * key.pixelRatio).toSize(), QImage::Format_RGB32);
+    image.setDevicePixelRatio(key.pixelRatio);
+    image.setDotsPerMeterX(qRound(dotsPerInch / kInch));
+    image.setDotsPerMeterY(qRound(dotsPerInch / kInch));
+    QPainter painter(&image);
+    recording.replay(painter);
+    return image;
+}
+
+} // namespace
+
+void KeptPicture::draw(QPainter& painter, const Key& key, const Paint& paint)
+{
+    if ((m_isStale || m_key != key) && !m_isPainting)
+        repaint(key, paint, painter.device()->logicalDpiY());
+    const QRect whole(QPoint(0, 0), key.size);
+    if (m_picture.isNull())
+        painter.fillRect(whole, TSThemeHelper::backgroundColorForChartView());
+    else
+        painter.drawPixmap(whole, m_picture); // stretched while one of this size is on its way
+}
+
+void KeptPicture::repaint(const Key& key, const Paint& paint, int dotsPerInch)
+{
+    m_isStale = false;
+    m_key = key;
+    PaintRecorder recorder(key.size, dotsPerInch);
+    {
+        QPainter painter(&recorder);
+        paint(painter);
+    }
+    if (recorder.recording().cost() <= kLargestCostAtOnce) {
+        m_picture = QPixmap::fromImage(imageOf(recorder.recording(), key, dotsPerInch));
+        return;
+    }
+    m_isPainting = true;
+    QtConcurrent::run([recording = recorder.recording(), key, dotsPerInch] {
+        return imageOf(recording, key, dotsPerInch);
+    }).then(this, [this](const QImage& image) {
+        m_isPainting = false;
+        m_picture = QPixmap::fromImage(image);
+        Q_EMIT didPaint();
+    });
+}
+
+} // namespace tessara

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "charts/PaintRecording.h"
+
+#include <QObject>
+#include <QPixmap>
+
+#include <functional>
+
+namespace tessara {
+
+/// A picture that is painted once for each change and kept. What takes long to paint is painted in
+/// another thread: until it is there, the former picture stays in sight.
+class KeptPicture final : public QObject {
+    Q_OBJECT
+
+public:
+    /// What a picture was painted for.
+    struct Key {
+        QSize size; ///< in points
+        double pixelRatio;
+        QSize window;
+        bool isNow;
+
+        bool operator==(const Key&) const = default;
+    };
+
+    using Paint = std::function<void(QPainter&)>;
+
+    /// Something has changed that is painted.
+    void invalidate() { m_isStale = true; }
+
+    /// Draws the picture at the origin.
+    /// @param paint paints a new one, if that is needed; called on this thread before this returns
+    void draw(QPainter& painter, const Key& key, const Paint& paint);
+
+Q_SIGNALS:
+    /// A picture that is newer than the one that was drawn is there.
+    void didPaint();
+
+private:
+    void repaint(const Key& key, const Paint& paint, int dotsPerInch);
+
+    QPixmap m_picture;
+    Key m_key{};
+    bool m_isStale = true;
+    bool m_isPainting = false; ///< in the other thread
+};
+
+} // namespace tessara
