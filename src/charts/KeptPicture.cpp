@@ -2,8 +2,6 @@
 
 #include "charts/TSThemeHelper.h"
 
-#include <QFuture>
-#include <QImage>
 #include <QtConcurrentRun>
 
 namespace tessara {
@@ -26,6 +24,15 @@ QImage imageOf(const PaintRecording& recording, const KeptPicture::Key& key, int
 }
 
 } // namespace
+
+KeptPicture::KeptPicture()
+{
+    connect(&m_painting, &QFutureWatcher<QImage>::finished, this, [this] {
+        m_isPainting = false;
+        m_picture = QPixmap::fromImage(m_painting.result());
+        Q_EMIT didPaint();
+    });
+}
 
 void KeptPicture::draw(QPainter& painter, const Key& key, const Paint& paint)
 {
@@ -52,13 +59,9 @@ void KeptPicture::repaint(const Key& key, const Paint& paint, int dotsPerInch)
         return;
     }
     m_isPainting = true;
-    QtConcurrent::run([recording = recorder.recording(), key, dotsPerInch] {
+    m_painting.setFuture(QtConcurrent::run([recording = recorder.recording(), key, dotsPerInch] {
         return imageOf(recording, key, dotsPerInch);
-    }).then(this, [this](const QImage& image) {
-        m_isPainting = false;
-        m_picture = QPixmap::fromImage(image);
-        Q_EMIT didPaint();
-    });
+    }));
 }
 
 } // namespace tessara

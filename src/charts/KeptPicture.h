@@ -2,6 +2,8 @@
 
 #include "charts/PaintRecording.h"
 
+#include <QFutureWatcher>
+#include <QImage>
 #include <QObject>
 #include <QPixmap>
 
@@ -27,6 +29,8 @@ public:
 
     using Paint = std::function<void(QPainter&)>;
 
+    KeptPicture();
+
     /// Something has changed that is painted.
     void invalidate() { m_isStale = true; }
 
@@ -45,6 +49,7 @@ private:
     Key m_key{};
     bool m_isStale = true;
     bool m_isPainting = false; ///< in the other thread
+    QFutureWatcher<QImage> m_painting;
 };
 
 } // namespace tessara
