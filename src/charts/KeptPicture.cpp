@@ -34,6 +34,11 @@ KeptPicture::KeptPicture()
     });
 }
 
+KeptPicture::~KeptPicture()
+{
+    m_painting.waitForFinished(); // the fonts it paints with go with the application
+}
+
 void KeptPicture::draw(QPainter& painter, const Key& key, const Paint& paint)
 {
     if ((m_isStale || m_key != key) && !m_isPainting)

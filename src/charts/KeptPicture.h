@@ -30,6 +30,7 @@ public:
     using Paint = std::function<void(QPainter&)>;
 
     KeptPicture();
+    ~KeptPicture() override;
 
     /// Something has changed that is painted.
     void invalidate() { m_isStale = true; }
