@@ -1068,6 +1068,14 @@
         <translation>Die Webseite lässt sich nicht öffnen.</translation>
     </message>
     <message>
+        <source>What you set and note will not be kept.</source>
+        <translation>Einstellungen und Anmerkungen bleiben nicht erhalten.</translation>
+    </message>
+    <message>
+        <source>Unable to write: %1</source>
+        <translation>Schreiben nicht möglich: %1</translation>
+    </message>
+    <message>
         <source>Unable to scan for wireless networks.</source>
         <translation>Die Suche nach Funknetzwerken ist nicht möglich.</translation>
     </message>

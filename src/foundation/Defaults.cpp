@@ -130,4 +130,9 @@ void Defaults::synchronize()
         m_store->sync();
 }
 
+QString Defaults::unwritableFile() const
+{
+    return m_store && !m_store->isWritable() ? m_store->fileName() : QString();
+}
+
 } // namespace tessara

@@ -48,6 +48,8 @@ public:
 
     /// Writes what is still in memory to the store.
     void synchronize();
+    /// The store's file, if it cannot be written; empty otherwise, and without a store.
+    QString unwritableFile() const;
 
 Q_SIGNALS:
     void didChange();

@@ -220,4 +220,13 @@ bool TSAnnotationsHelper::saveToDisk()
     return true;
 }
 
+QString TSAnnotationsHelper::unwritableFile() const
+{
+    const QFileInfo file(m_path);
+    const QString folder = file.path();
+    const bool isWritable = QDir().mkpath(folder) && QFileInfo(folder).isWritable() &&
+                            (!file.exists() || file.isWritable());
+    return isWritable ? QString() : m_path;
+}
+
 } // namespace tessara

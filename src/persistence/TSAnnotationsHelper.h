@@ -40,6 +40,8 @@ public:
     /// Writes what has changed here into the file, beside what other windows have written into it.
     /// A failure is one line in the log. @return whether nothing is left to be written
     bool saveToDisk();
+    /// The file of the notes, if it cannot be written; empty otherwise. Makes the folder it is in.
+    QString unwritableFile() const;
 
     std::optional<QString> annotationsFor(const QString& bssid) const override;
     /// Main thread only. The file follows on a thread of its own.

@@ -184,8 +184,19 @@ void AppDelegate::restoreWindowFrame()
         m_window.takeFirstRunFrame();
 }
 
+/// Called before all else, and returns when the program may go on. It may also where nothing can be
+/// kept, but then the user is to know.
+/// @return the files that cannot be written
+QStringList AppDelegate::prepareInstallation() const
+{
+    QStringList files{Defaults::standard().unwritableFile(), m_annotations.unwritableFile()};
+    files.removeAll(QString());
+    return files;
+}
+
 void AppDelegate::applicationWillFinishLaunching(const QString& file)
 {
+    const QStringList unwritable = prepareInstallation();
     m_scanCycle.setDisableAutoScan(!file.isEmpty());
     m_vendors.expandDatabase();
     m_vendors.loadInBackground();
@@ -209,6 +220,10 @@ void AppDelegate::applicationWillFinishLaunching(const QString& file)
             configureAll();
     });
     showWindow();
+    if (!unwritable.isEmpty()) {
+        m_prompt.inform(localized("What you set and note will not be kept."),
+                        localized("Unable to write: %1").arg(unwritable.join(QLatin1String(", "))));
+    }
     if (!file.isEmpty())
         openFile(file);
 }

@@ -80,6 +80,7 @@ private:
     void connectSpeech();
     void onViewMakeText(double step);
     void connectParts(NotificationCenter& notifications);
+    QStringList prepareInstallation() const;
     void loadDefaults();
     void handleUserDidPickNetwork(const QString& bssid);
     void userDidSelectColor(const NetworkPtr& network, const QColor& color);

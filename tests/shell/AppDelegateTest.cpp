@@ -242,6 +242,17 @@ TEST_F(AppDelegateTest, EndsWithAMessageWhereThereIsNoWiFi)
     EXPECT_EQ(ends.size(), 1);
 }
 
+TEST_F(AppDelegateTest, TellsAtTheStartThatNothingCanBeKept)
+{
+    const QString file = QStringLiteral("/dev/null/tessara.conf");
+    Defaults::standard().attach(std::make_unique<QSettings>(file, QSettings::IniFormat));
+    launch();
+    ASSERT_EQ(sheets().size(), 1);
+    EXPECT_TRUE(sheets().front()->informativeText().contains(file));
+    EXPECT_FALSE(sheets().front()->informativeText().contains(QStringLiteral("plist")));
+    EXPECT_TRUE(delegate->scanCycle().isScanning()) << "it goes on";
+}
+
 TEST_F(AppDelegateTest, StoresTheSettingsOnceWhenTheWindowCloses)
 {
     Defaults::standard().setValue(DefaultKey::SignalStrengthThreshold, -70);
