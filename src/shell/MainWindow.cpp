@@ -39,7 +39,7 @@ constexpr QSize kFreshSize(1100, 735);
 constexpr QSize kSmallestSize(760, 460); // the toolbar fits, and the tabs below a few rows
 constexpr int kSmallestTable = 100;      // height
 constexpr int kSmallestTabs = 400;       // height
-constexpr int kRoomyTable = 240;         // height; what a low window leaves the table of both
+constexpr int kRoomyTable = 160;         // height; what a low window leaves the table of both
 constexpr int kNarrowestSideView = 125;  // and at most a quarter of the window
 constexpr int kFooterMargin = 6;
 constexpr double kFirstRunWidth = 0.9;
