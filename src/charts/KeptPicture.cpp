@@ -11,10 +11,15 @@ namespace {
 /// What is painted within a frame of the screen is painted at once.
 constexpr qsizetype kLargestCostAtOnce = 5000;
 
+QSize sizeInPixels(const KeptPicture::Key& key)
+{
+    return (QSizeF(key.size) * key.pixelRatio).toSize();
+}
+
 QImage imageOf(const PaintRecording& recording, const KeptPicture::Key& key, int dotsPerInch)
 {
     constexpr double kInch = 0.0254; // metres
-    QImage image((QSizeF(key.size) * key.pixelRatio).toSize(), QImage::Format_RGB32);
+    QImage image(sizeInPixels(key), QImage::Format_RGB32);
     image.setDevicePixelRatio(key.pixelRatio);
     image.setDotsPerMeterX(qRound(dotsPerInch / kInch));
     image.setDotsPerMeterY(qRound(dotsPerInch / kInch));
@@ -46,6 +51,8 @@ void KeptPicture::draw(QPainter& painter, const Key& key, const Paint& paint)
     const QRect whole(QPoint(0, 0), key.size);
     if (m_picture.isNull())
         painter.fillRect(whole, TSThemeHelper::backgroundColorForChartView());
+    else if (m_picture.size() == sizeInPixels(key))
+        painter.drawPixmap(0, 0, m_picture);
     else
         painter.drawPixmap(whole, m_picture); // stretched while one of this size is on its way
 }
