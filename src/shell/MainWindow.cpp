@@ -348,7 +348,7 @@ void MainWindow::setTabsShown(bool shown)
 
 void MainWindow::setTabsHeight(int height)
 {
-    m_tabsSplitter->setSizes({std::max(m_tabsSplitter->height() - height, kSmallestTable), height});
+    m_tabsSplitter->setSizes({std::max(heightOfBoth() - height, kSmallestTable), height});
     validateAreaItems();
 }
 
@@ -365,16 +365,23 @@ void MainWindow::limitSideView()
     validateAreaItems();
 }
 
+/// What table and tabs share.
+int MainWindow::heightOfBoth() const
+{
+    return m_tabsSplitter->height() - m_tabsSplitter->handleWidth();
+}
+
 int MainWindow::smallestTabs() const
 {
-    const int room = m_tabsSplitter->height() - m_tabsSplitter->handleWidth();
-    return std::clamp(room - kRoomyTable, m_graphTabs->minimumHeight(), kSmallestTabs);
+    return std::clamp(heightOfBoth() - kRoomyTable, m_graphTabs->minimumHeight(), kSmallestTabs);
 }
 
 void MainWindow::limitTabs()
 {
     const int tabs = m_tabsSplitter->sizes().back();
-    setTabsHeight(tabs > 0 ? std::max(tabs, smallestTabs()) : 0);
+    if (tabs > 0 && tabs < smallestTabs())
+        setTabsHeight(smallestTabs());
+    validateAreaItems();
 }
 
 void MainWindow::validateAreaItems()

@@ -88,6 +88,7 @@ private:
     void setTabsHeight(int height);
     int widestSideView() const;
     void limitSideView();
+    int heightOfBoth() const;
     int smallestTabs() const;
     void limitTabs();
     void validateArea(QWidget& area, QAction& item, bool isShown);

@@ -102,7 +102,8 @@ void NetworkDetailsForm::changeEvent(QEvent* event)
 void NetworkDetailsForm::paletteDidChange()
 {
     setTextColor(*m_placeholder, dimmed(palette()));
-    const QColor caption = withAlpha(palette().color(QPalette::WindowText), kCaptionAlpha);
+    const QColor text = palette().color(QPalette::Active, QPalette::WindowText);
+    const QColor caption = withAlpha(text, kCaptionAlpha);
     for (QLabel* label : findChildren<QLabel*>(QLatin1String(kCaptionName)))
         setTextColor(*label, caption);
     const int side = fontMetrics().ascent();
