@@ -194,7 +194,7 @@ void ResultsDocument::doSaveWithFileInBackground(const QString& path, Action did
 
 void ResultsDocument::didSaveFile(const QString& path)
 {
-    setTitle(path);
+    setPath(path);
 }
 
 void ResultsDocument::doOpenWithFileInBackground(const QString& path)
@@ -230,16 +230,21 @@ void ResultsDocument::doOpenWithFileInBackground(const QString& path)
 void ResultsDocument::didOpenFile(const QString& path, const SavedResults& results)
 {
     m_results.didFindNetworks(results.networks, results.lastScanTime);
-    setTitle(path);
+    setPath(path);
     Q_EMIT fileDidOpen(QFileInfo(path).absoluteFilePath());
 }
 
-void ResultsDocument::setTitle(const QString& path)
+void ResultsDocument::setPath(const QString& path)
 {
-    QString title = QFileInfo(path).absoluteFilePath();
-    title.chop(static_cast<qsizetype>(std::size(kResultsExtension))); // and the dot
-    m_title = title;
+    m_path = QFileInfo(path).absoluteFilePath();
     Q_EMIT titleDidChange();
+}
+
+QString ResultsDocument::title() const
+{
+    QString title = m_path;
+    title.chop(static_cast<qsizetype>(std::size(kResultsExtension))); // and the dot
+    return title;
 }
 
 void ResultsDocument::showError(const QString& message, const QString& path, const QString& reason)

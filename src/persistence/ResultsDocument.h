@@ -38,11 +38,13 @@ public:
     ResultsDocument(ShownResults& results, UserPrompt& prompt, Clock& clock);
     ~ResultsDocument() override;
 
-    /// The path of the file without its extension; empty while the results are no file's.
-    const QString& title() const { return m_title; }
-    bool hasUnsavedResults() const { return m_title.isEmpty() && !m_results.networks().empty(); }
+    /// The file that is shown, with its folder; empty while the results are no file's.
+    const QString& path() const { return m_path; }
+    /// The same without the extension.
+    QString title() const;
+    bool hasUnsavedResults() const { return m_path.isEmpty() && !m_results.networks().empty(); }
     /// What is shown from now on is a scan.
-    void leaveFile() { m_title.clear(); }
+    void leaveFile() { m_path.clear(); }
 
     /// Does what would lose unsaved results, after the user was asked whether to save them. It is
     /// not done if the user cancels, and if the results could not be saved.
@@ -88,13 +90,13 @@ private:
     Job beginJob(const QString& message, const QString& path);
     void runInBackground(const Job& job, Work work);
     void copySomeRecords();
-    void setTitle(const QString& path);
+    void setPath(const QString& path);
     void showError(const QString& message, const QString& path, const QString& reason);
 
     ShownResults& m_results;
     UserPrompt& m_prompt;
     Clock& m_clock;
-    QString m_title;
+    QString m_path;
     bool m_isWorking = false;
     std::unique_ptr<Save> m_save;                         ///< until its work begins
     std::shared_ptr<std::atomic<bool>> m_isOpenCancelled; ///< of the latest one, if any

@@ -544,7 +544,7 @@ void AppDelegate::updateWindowTitle()
 
 void AppDelegate::showWindowTitle()
 {
-    m_window.setDocument(windowTitle(), m_document.hasUnsavedResults());
+    m_window.setDocument(windowTitle(), m_document.path(), m_document.hasUnsavedResults());
 }
 
 void AppDelegate::validateScanStopItems()

@@ -212,8 +212,9 @@ void MainWindow::makeFooter()
     statusBar()->addPermanentWidget(m_rightFooter);
 }
 
-void MainWindow::setDocument(const QString& title, bool hasUnsavedResults)
+void MainWindow::setDocument(const QString& title, const QString& path, bool hasUnsavedResults)
 {
+    setWindowFilePath(path);
     // "[*]" is the place of the mark; twice, it stands for itself.
     QString text = title;
     setWindowTitle(text.replace(QLatin1String("[*]"), QLatin1String("[*][*]")) +

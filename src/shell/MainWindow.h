@@ -39,8 +39,9 @@ public:
     ActivityIndicator& activityIndicator() { return *m_activityIndicator; }
 
     /// @param title what is shown
+    /// @param path of the file that is shown, for the desktop to know; empty for a scan
     /// @param hasUnsavedResults marks the title, and makes the results ones to be saved
-    void setDocument(const QString& title, bool hasUnsavedResults);
+    void setDocument(const QString& title, const QString& path, bool hasUnsavedResults);
     void setStateInfo(const StateInfo& info);
     void setLeftFooter(const QString& text);
     void setLeftFooterVisible(bool visible);
