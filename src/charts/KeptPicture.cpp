@@ -4,6 +4,8 @@
 
 #include <QtConcurrentRun>
 
+#include <utility>
+
 namespace tessara {
 
 namespace {
@@ -20,11 +22,12 @@ QImage imageOf(const PaintRecording& recording, const KeptPicture::Key& key, int
 {
     constexpr double kInch = 0.0254; // metres
     QImage image(sizeInPixels(key), QImage::Format_RGB32);
-    image.setDevicePixelRatio(key.pixelRatio);
     image.setDotsPerMeterX(qRound(dotsPerInch / kInch));
     image.setDotsPerMeterY(qRound(dotsPerInch / kInch));
     QPainter painter(&image);
     recording.replay(painter);
+    painter.end();
+    image.setDevicePixelRatio(key.pixelRatio);
     return image;
 }
 
@@ -34,7 +37,8 @@ KeptPicture::KeptPicture()
 {
     connect(&m_painting, &QFutureWatcher<QImage>::finished, this, [this] {
         m_isPainting = false;
-        m_picture = QPixmap::fromImage(m_painting.result());
+        if (!std::exchange(m_isForgotten, false))
+            m_picture = QPixmap::fromImage(m_painting.result());
         Q_EMIT didPaint();
     });
 }
@@ -42,6 +46,13 @@ KeptPicture::KeptPicture()
 KeptPicture::~KeptPicture()
 {
     m_painting.waitForFinished(); // the fonts it paints with go with the application
+}
+
+void KeptPicture::forget()
+{
+    m_picture = {};
+    m_isStale = true;
+    m_isForgotten = m_isPainting;
 }
 
 void KeptPicture::draw(QPainter& painter, const Key& key, const Paint& paint)
@@ -64,14 +75,16 @@ void KeptPicture::repaint(const Key& key, const Paint& paint, int dotsPerInch)
     PaintRecorder recorder(key.size, dotsPerInch);
     {
         QPainter painter(&recorder);
+        painter.scale(key.pixelRatio, key.pixelRatio); // in pixels, as lines of one ask for them
         paint(painter);
     }
-    if (recorder.recording().cost() <= kLargestCostAtOnce) {
-        m_picture = QPixmap::fromImage(imageOf(recorder.recording(), key, dotsPerInch));
+    PaintRecording recording = recorder.takeRecording();
+    if (recording.cost() <= kLargestCostAtOnce) {
+        m_picture = QPixmap::fromImage(imageOf(recording, key, dotsPerInch));
         return;
     }
     m_isPainting = true;
-    m_painting.setFuture(QtConcurrent::run([recording = recorder.recording(), key, dotsPerInch] {
+    m_painting.setFuture(QtConcurrent::run([recording = std::move(recording), key, dotsPerInch] {
         return imageOf(recording, key, dotsPerInch);
     }));
 }

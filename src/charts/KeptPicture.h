@@ -35,6 +35,9 @@ public:
     /// Something has changed that is painted.
     void invalidate() { m_isStale = true; }
 
+    /// Nobody has seen the picture for a while: when one is drawn again, it is a new one.
+    void forget();
+
     /// Draws the picture at the origin.
     /// @param paint paints a new one, if that is needed; called on this thread before this returns
     void draw(QPainter& painter, const Key& key, const Paint& paint);
@@ -49,7 +52,8 @@ private:
     QPixmap m_picture;
     Key m_key{};
     bool m_isStale = true;
-    bool m_isPainting = false; ///< in the other thread
+    bool m_isPainting = false;  ///< in the other thread
+    bool m_isForgotten = false; ///< what is painted there
     QFutureWatcher<QImage> m_painting;
 };
 

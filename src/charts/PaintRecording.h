@@ -10,6 +10,7 @@
 #include <QString>
 #include <QTransform>
 
+#include <utility>
 #include <variant>
 #include <vector>
 
@@ -63,6 +64,7 @@ public:
 
     QPaintEngine* paintEngine() const override { return &m_engine; }
     const PaintRecording& recording() const { return m_recording; }
+    PaintRecording takeRecording() { return std::move(m_recording); }
 
 protected:
     int metric(PaintDeviceMetric metric) const override;

@@ -227,6 +227,12 @@ void TSSignalStrengthView::paintEvent(QPaintEvent* /*event*/)
     drawHover(painter, viewRect());
 }
 
+void TSSignalStrengthView::hideEvent(QHideEvent* event)
+{
+    m_picture.forget();
+    QWidget::hideEvent(event);
+}
+
 QImage TSSignalStrengthView::imageWithSubviews()
 {
     const double ratio = devicePixelRatioF();

@@ -83,7 +83,8 @@ void FilterField::keyPressEvent(QKeyEvent* event)
 
 void FilterField::focusOutEvent(QFocusEvent* event)
 {
-    remember();
+    if (event->reason() != Qt::PopupFocusReason) // a menu comes back here
+        remember();
     QLineEdit::focusOutEvent(event);
 }
 

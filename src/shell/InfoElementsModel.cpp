@@ -184,7 +184,9 @@ void InfoElementsModel::sortRows(Rows& rows) const
 
 void InfoElementsModel::sort(int column, Qt::SortOrder order)
 {
-    m_sortColumn = column == kFieldsColumn ? -1 : column;
+    if (column == kFieldsColumn) // says nothing to sort by
+        return;
+    m_sortColumn = column;
     m_sortOrder = order;
     Q_EMIT layoutAboutToBeChanged();
     const QModelIndexList before = persistentIndexList();

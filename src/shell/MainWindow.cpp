@@ -330,6 +330,7 @@ QByteArray MainWindow::tabsSplitterState() const
 void MainWindow::restoreTabsSplitter(const QByteArray& state)
 {
     m_tabsAreFresh = !m_tabsSplitter->restoreState(state);
+    m_tabsHeight = m_tabsSplitter->sizes().back();
     validateAreaItems();
 }
 
@@ -342,14 +343,15 @@ void MainWindow::showEvent(QShowEvent* event)
 
 void MainWindow::setTabsShown(bool shown)
 {
-    if (const int height = m_tabsSplitter->sizes().back(); height > 0)
-        m_tabsHeight = height;
     setTabsHeight(shown ? std::max(m_tabsHeight, smallestTabs()) : 0);
 }
 
 void MainWindow::setTabsHeight(int height)
 {
-    m_tabsSplitter->setSizes({std::max(heightOfBoth() - height, kSmallestTable), height});
+    if (height > 0)
+        m_tabsHeight = height;
+    if (height != m_tabsSplitter->sizes().back())
+        m_tabsSplitter->setSizes({std::max(heightOfBoth() - height, kSmallestTable), height});
     validateAreaItems();
 }
 
@@ -380,8 +382,10 @@ int MainWindow::smallestTabs() const
 void MainWindow::limitTabs()
 {
     const int tabs = m_tabsSplitter->sizes().back();
-    if (tabs > 0 && tabs < smallestTabs())
-        setTabsHeight(smallestTabs());
+    // A window that has grown since leaves them as low as they were.
+    const int smallest = std::min(smallestTabs(), m_tabsHeight);
+    if (tabs > 0)
+        setTabsHeight(std::max(tabs, smallest));
     validateAreaItems();
 }
 

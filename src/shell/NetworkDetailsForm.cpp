@@ -75,6 +75,7 @@ NetworkDetailsForm::NetworkDetailsForm(QWidget* parent)
     : QScrollArea(parent)
     , m_pages(new QStackedWidget)
 {
+    setAccessibleName(localized("Network Details"));
     setFrameShape(NoFrame);
     setWidgetResizable(true);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

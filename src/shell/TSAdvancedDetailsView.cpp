@@ -72,7 +72,7 @@ void TSAdvancedDetailsView::setUpHeader()
     header.setSortIndicatorClearable(true); // back to the order of the beacon
     connect(&header, &QHeaderView::sortIndicatorChanged, this,
             [this, &header](int column, Qt::SortOrder order) {
-                if (column == InfoElementsModel::kFieldsColumn) // says nothing to sort by
+                if (column == InfoElementsModel::kFieldsColumn) // which the model does not sort by
                     header.setSortIndicator(m_sortColumn, m_sortOrder);
                 else
                     std::tie(m_sortColumn, m_sortOrder) = std::tuple(column, order);

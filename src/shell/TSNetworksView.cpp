@@ -153,19 +153,21 @@ std::vector<bool> TSNetworksView::selectedRows() const
 void TSNetworksView::selectHighlightedNetworks()
 {
     const std::vector<bool> isSelected = selectedRows();
-    QItemSelection highlighted;
-    bool differs = false;
-    for (std::size_t row = 0; row < isSelected.size(); ++row) {
-        const bool isHighlighted = m_model.networks()[row]->isUserHighlighted();
-        differs = differs || isHighlighted != isSelected[row];
-        if (isHighlighted) {
-            const QModelIndex index = m_model.index(static_cast<int>(row), 0);
-            highlighted.select(index, index);
-        }
+    std::vector<bool> isHighlighted;
+    for (const NetworkPtr& network : m_model.networks())
+        isHighlighted.push_back(network->isUserHighlighted());
+    if (isHighlighted == isSelected)
+        return;
+    QItemSelection runs; // of rows: the fewer, the less the selection has to compare
+    for (auto first = std::ranges::find(isHighlighted, true); first != isHighlighted.end();) {
+        const auto last = std::find(first, isHighlighted.end(), false);
+        const auto row = [&](auto place) {
+            return static_cast<int>(place - isHighlighted.begin());
+        };
+        runs.select(m_model.index(row(first), 0), m_model.index(row(last) - 1, 0));
+        first = std::find(last, isHighlighted.end(), true);
     }
-    if (differs)
-        selectionModel()->select(highlighted,
-                                 QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    selectionModel()->select(runs, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
 }
 
 void TSNetworksView::setFilteredColumns(const FilterIdentifiers& columns)

@@ -38,7 +38,7 @@ constexpr int kMany = 2000;
 
 } // namespace
 
-TEST(PaintRecording, PaintsAChartAgainPixelByPixel)
+TEST(KeptPicture, HoldsAChartPixelByPixel)
 {
     ManualClock clock{kReferenceTime};
     TSSpectrumView spectrum(clock);
@@ -58,20 +58,18 @@ TEST(PaintRecording, PaintsAChartAgainPixelByPixel)
         chart->setReferenceTime(kReferenceTime);
         chart->setItemHighlightEnabled(true);
         chart->setNetworks(networks);
-        for (const double ratio : {1.0, 2.0}) {
+        for (const double ratio : {1.0, 1.5, 2.0}) {
             QImage direct((QSizeF(chart->size()) * ratio).toSize(), QImage::Format_RGB32);
             direct.setDevicePixelRatio(ratio);
-            QImage again = direct;
-            PaintRecorder recorder(chart->size(), direct.logicalDpiY());
-            for (QPaintDevice* device :
-                 {static_cast<QPaintDevice*>(&direct), static_cast<QPaintDevice*>(&recorder)}) {
-                QPainter painter(device);
-                chart->paint(painter);
-            }
-            QPainter painter(&again);
-            recorder.recording().replay(painter);
+            QImage kept = direct;
+            const auto paint = [chart](QPainter& painter) { chart->paint(painter); };
+            QPainter painter(&direct);
+            paint(painter);
             painter.end();
-            EXPECT_EQ(direct, again) << ratio;
+            painter.begin(&kept);
+            KeptPicture().draw(painter, {chart->size(), ratio, {}, true}, paint);
+            painter.end();
+            EXPECT_EQ(direct, kept) << ratio;
         }
     }
 }
@@ -106,4 +104,11 @@ TEST(KeptPicture, KeepsTheFormerPictureUntilALongerOneIsThere)
     EXPECT_EQ(drawn(picture, lines(kMany, Qt::blue), larger).pixelColor(20, 20), QColor(Qt::green));
     ASSERT_TRUE(pictures.wait());
     EXPECT_EQ(drawn(picture, lines(kFew, Qt::red), larger).pixelColor(20, 20), QColor(Qt::blue));
+
+    picture.invalidate();
+    drawn(picture, lines(kMany, Qt::red), larger);
+    picture.forget(); // with what is under way
+    ASSERT_TRUE(pictures.wait());
+    EXPECT_EQ(drawn(picture, lines(kFew, Qt::yellow), larger).pixelColor(20, 20),
+              QColor(Qt::yellow));
 }

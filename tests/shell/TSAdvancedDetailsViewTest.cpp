@@ -133,8 +133,11 @@ TEST_F(TSAdvancedDetailsViewTest, SortsElementsAndFindsBackToTheBeacon)
     EXPECT_EQ(text(element(0)), "11") << "a new beacon comes sorted too";
     view.header()->setSortIndicator(-1, Qt::AscendingOrder);
     EXPECT_EQ(names().front(), "Supported Rates");
+    view.header()->setSortIndicator(InfoElementsModel::kIDColumn, Qt::DescendingOrder);
     view.header()->setSortIndicator(InfoElementsModel::kFieldsColumn, Qt::AscendingOrder);
-    EXPECT_EQ(view.header()->sortIndicatorSection(), -1) << "there is nothing to sort by";
+    EXPECT_EQ(view.header()->sortIndicatorSection(), InfoElementsModel::kIDColumn)
+        << "there is nothing to sort by";
+    EXPECT_EQ(text(element(0)), "11");
 }
 
 TEST_F(TSAdvancedDetailsViewTest, OffersWhatCanBeDoneWithARow)
