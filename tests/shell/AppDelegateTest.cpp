@@ -17,6 +17,7 @@
 #include <QHeaderView>
 #include <QMenu>
 #include <QSignalSpy>
+#include <QSplitter>
 #include <QStatusBar>
 #include <QTest>
 
@@ -240,6 +241,35 @@ TEST_F(AppDelegateTest, EndsWithAMessageWhereThereIsNoWiFi)
     QSignalSpy ends(delegate.get(), &AppDelegate::didTerminate);
     QTest::keyClick(sheets().front(), Qt::Key_Return);
     EXPECT_EQ(ends.size(), 1);
+}
+
+TEST_F(AppDelegateTest, TheBarAboveTheTabsLeavesThemRoomOrClosesThem)
+{
+    launch();
+    auto& splitter = dynamic_cast<QSplitter&>(*window().graphTabs().parentWidget());
+    const auto drag = [&splitter](int by) {
+        QSplitterHandle* bar = splitter.handle(1);
+        QTest::mousePress(bar, Qt::LeftButton);
+        QTest::mouseMove(bar, bar->rect().center() + QPoint(0, by));
+        QTest::mouseRelease(bar, Qt::LeftButton);
+        return splitter.sizes().back();
+    };
+    const int fresh = splitter.sizes().back();
+    EXPECT_EQ(drag(40), fresh) << "they are as low as they may be";
+    EXPECT_EQ(drag(-30), fresh + 30);
+    EXPECT_EQ(drag(50), fresh);
+    EXPECT_EQ(drag(300), 0);
+    EXPECT_FALSE(action("&Lower Half").isChecked());
+    EXPECT_FALSE(window().graphTabs().isEnabled());
+    action("&Lower Half").trigger();
+    EXPECT_EQ(splitter.sizes().back(), fresh);
+
+    window().resize(1100, 735);
+    settle();
+    EXPECT_EQ(splitter.sizes().back(), fresh) << "a larger window is for the table";
+    EXPECT_EQ(drag(10), fresh) << "and nothing jumps at the first touch";
+    EXPECT_EQ(drag(-100), fresh + 100);
+    EXPECT_EQ(drag(100), 400);
 }
 
 TEST_F(AppDelegateTest, TellsAtTheStartThatNothingCanBeKept)
