@@ -19,6 +19,7 @@
 #include "shell/SpeechMenu.h"
 #include "shell/TSNetworksView.h"
 #include "shell/TSSideView.h"
+#include "shell/WindowAreas.h"
 
 #include <QDesktopServices>
 #include <QEvent>
@@ -203,9 +204,9 @@ void AppDelegate::applicationWillFinishLaunching(const QString& file)
     loadDefaults();
     m_window.networksView().restoreLayout(
         Defaults::standard().value(DefaultKey::NetworksTable).toByteArray());
-    m_window.restoreSplitter(
+    m_window.areas().restoreSideView(
         Defaults::standard().value(DefaultKey::HorizontalSplitView).toByteArray());
-    m_window.restoreTabsSplitter(
+    m_window.areas().restoreTabs(
         Defaults::standard().value(DefaultKey::VerticalSplitView).toByteArray());
     m_window.graphTabs().loadDefaults();
     for (const Column& column : columnRegistry())
@@ -396,8 +397,8 @@ void AppDelegate::saveDefaults()
 {
     Defaults& defaults = Defaults::standard();
     defaults.setValue(DefaultKey::NetworksTable, m_window.networksView().layoutState());
-    defaults.setValue(DefaultKey::HorizontalSplitView, m_window.splitterState());
-    defaults.setValue(DefaultKey::VerticalSplitView, m_window.tabsSplitterState());
+    defaults.setValue(DefaultKey::HorizontalSplitView, m_window.areas().sideViewState());
+    defaults.setValue(DefaultKey::VerticalSplitView, m_window.areas().tabsState());
     m_window.graphTabs().saveDefaults();
     defaults.setValue(DefaultKey::SideViewExpandedItems, m_window.sideView().expandedItems());
 }

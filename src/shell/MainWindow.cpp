@@ -13,6 +13,7 @@
 #include "shell/TSAdvancedDetailsView.h"
 #include "shell/TSNetworksView.h"
 #include "shell/TSSideView.h"
+#include "shell/WindowAreas.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -23,7 +24,6 @@
 #include <QLayout>
 #include <QMimeData>
 #include <QScreen>
-#include <QSplitter>
 #include <QStatusBar>
 #include <QToolBar>
 #include <QToolButton>
@@ -37,10 +37,6 @@ namespace {
 
 constexpr QSize kFreshSize(1100, 735);
 constexpr QSize kSmallestSize(760, 460); // the toolbar fits, and the tabs below a few rows
-constexpr int kSmallestTable = 100;      // height
-constexpr int kSmallestTabs = 400;       // height
-constexpr int kRoomyTable = 160;         // height; what a low window leaves the table of both
-constexpr int kNarrowestSideView = 125;  // and at most a quarter of the window
 constexpr int kFooterMargin = 6;
 constexpr double kFirstRunWidth = 0.9;
 constexpr double kFirstRunHeight = 0.85;
@@ -89,25 +85,14 @@ std::optional<QString> fileOfDrag(const QDropEvent& drag)
 } // namespace
 
 MainWindow::MainWindow(const Clock& clock)
-    : m_splitter(new QSplitter)
-    , m_tabsSplitter(new QSplitter(Qt::Vertical))
-    , m_sideView(new TSSideView)
+    : m_sideView(new TSSideView)
     , m_networksView(new TSNetworksView)
     , m_graphTabs(new GraphTabs(clock))
     , m_menu(new MainMenu(*m_networksView, *m_graphTabs, this))
+    , m_areas(new WindowAreas(*m_sideView, *m_networksView, *m_graphTabs, m_menu->sideViewItem(),
+                              m_menu->lowerHalfItem()))
 {
-    m_networksView->setMinimumHeight(kSmallestTable);
-    m_sideView->setMinimumWidth(kNarrowestSideView);
-    m_tabsSplitter->addWidget(m_networksView);
-    m_tabsSplitter->addWidget(m_graphTabs);
-    m_tabsSplitter->setStretchFactor(0, 1); // a larger window is for the table
-    m_tabsSplitter->setStretchFactor(1, 0);
-    m_tabsSplitter->setCollapsible(0, false);
-    m_splitter->addWidget(m_sideView);
-    m_splitter->addWidget(m_tabsSplitter);
-    m_splitter->setStretchFactor(1, 1); // the table takes the room there is
-    m_splitter->setCollapsible(1, false);
-    setCentralWidget(m_splitter);
+    setCentralWidget(m_areas);
     setAcceptDrops(true);
     setContextMenuPolicy(Qt::NoContextMenu); // it would offer to hide the toolbar
     setMenuBar(m_menu);
@@ -133,10 +118,6 @@ void MainWindow::connectMenu()
         m_filter->setFocus(Qt::ShortcutFocusReason);
         m_filter->selectAll();
     });
-    connect(&m_menu->sideViewItem(), &QAction::triggered, this, &MainWindow::setSideViewShown);
-    connect(&m_menu->lowerHalfItem(), &QAction::triggered, this, &MainWindow::setTabsShown);
-    connect(m_splitter, &QSplitter::splitterMoved, this, &MainWindow::limitSideView);
-    connect(m_tabsSplitter, &QSplitter::splitterMoved, this, &MainWindow::limitTabs);
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
         if (now) // two views copy nothing at this command
             m_menu->setCopyEnabled(now != m_sideView && now != &m_graphTabs->advancedDetailsView());
@@ -299,109 +280,6 @@ void MainWindow::dropEvent(QDropEvent* event)
     event->setDropAction(Qt::CopyAction);
     event->accept();
     Q_EMIT fileRequested(*file);
-}
-
-QByteArray MainWindow::splitterState() const
-{
-    return m_splitter->saveState();
-}
-
-void MainWindow::restoreSplitter(const QByteArray& state)
-{
-    if (!m_splitter->restoreState(state))
-        setSideViewShown(false);
-    validateAreaItems();
-}
-
-void MainWindow::setSideViewShown(bool shown)
-{
-    if (const int width = m_splitter->sizes().front(); width > 0)
-        m_sideViewWidth = width;
-    const int side = shown ? std::min(m_sideViewWidth, widestSideView()) : 0;
-    m_splitter->setSizes({side, std::max(m_splitter->width() - side, 1)});
-    validateAreaItems();
-}
-
-QByteArray MainWindow::tabsSplitterState() const
-{
-    return m_tabsSplitter->saveState();
-}
-
-void MainWindow::restoreTabsSplitter(const QByteArray& state)
-{
-    m_tabsAreFresh = !m_tabsSplitter->restoreState(state);
-    m_tabsHeight = m_tabsSplitter->sizes().back();
-    validateAreaItems();
-}
-
-void MainWindow::showEvent(QShowEvent* event)
-{
-    QMainWindow::showEvent(event);
-    if (std::exchange(m_tabsAreFresh, false)) // not before there is a height to divide
-        setTabsHeight(smallestTabs());
-}
-
-void MainWindow::setTabsShown(bool shown)
-{
-    setTabsHeight(shown ? std::max(m_tabsHeight, smallestTabs()) : 0);
-}
-
-void MainWindow::setTabsHeight(int height)
-{
-    if (height > 0)
-        m_tabsHeight = height;
-    if (height != m_tabsSplitter->sizes().back())
-        m_tabsSplitter->setSizes({std::max(heightOfBoth() - height, kSmallestTable), height});
-    validateAreaItems();
-}
-
-int MainWindow::widestSideView() const
-{
-    return std::max(m_splitter->width() / 4, kNarrowestSideView);
-}
-
-void MainWindow::limitSideView()
-{
-    const int side = m_splitter->sizes().front();
-    if (side > widestSideView())
-        m_splitter->setSizes({widestSideView(), m_splitter->width() - widestSideView()});
-    validateAreaItems();
-}
-
-/// What table and tabs share.
-int MainWindow::heightOfBoth() const
-{
-    return m_tabsSplitter->height() - m_tabsSplitter->handleWidth();
-}
-
-int MainWindow::smallestTabs() const
-{
-    return std::clamp(heightOfBoth() - kRoomyTable, m_graphTabs->minimumHeight(), kSmallestTabs);
-}
-
-void MainWindow::limitTabs()
-{
-    const int tabs = m_tabsSplitter->sizes().back();
-    // A window that has grown since leaves them as low as they were.
-    const int smallest = std::min(smallestTabs(), m_tabsHeight);
-    if (tabs > 0)
-        setTabsHeight(std::max(tabs, smallest));
-    validateAreaItems();
-}
-
-void MainWindow::validateAreaItems()
-{
-    validateArea(*m_sideView, m_menu->sideViewItem(), m_splitter->sizes().front() > 0);
-    validateArea(*m_graphTabs, m_menu->lowerHalfItem(), m_tabsSplitter->sizes().back() > 0);
-}
-
-/// An area that is not shown is also out of the keyboard's reach.
-void MainWindow::validateArea(QWidget& area, QAction& item, bool isShown)
-{
-    if (!isShown && (focusWidget() == &area || area.isAncestorOf(focusWidget())))
-        m_networksView->setFocus();
-    area.setEnabled(isShown);
-    item.setChecked(isShown);
 }
 
 void MainWindow::takeFirstRunFrame()

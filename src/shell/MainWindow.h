@@ -7,10 +7,8 @@
 
 #include <optional>
 
-class QAction;
 class QComboBox;
 class QLabel;
-class QSplitter;
 
 namespace tessara {
 
@@ -22,6 +20,7 @@ class GraphTabs;
 class MainMenu;
 class TSNetworksView;
 class TSSideView;
+class WindowAreas;
 
 /// The main window: menus, toolbar, side view, networks table, tabs below it and footer. It shows
 /// what it is given and tells what the user asks for; it decides nothing.
@@ -36,6 +35,7 @@ public:
     TSSideView& sideView() { return *m_sideView; }
     GraphTabs& graphTabs() { return *m_graphTabs; }
     MainMenu& menu() { return *m_menu; }
+    WindowAreas& areas() { return *m_areas; }
     ActivityIndicator& activityIndicator() { return *m_activityIndicator; }
 
     /// @param title what is shown
@@ -52,13 +52,6 @@ public:
     /// Shows which quick filter is chosen.
     void setQuickFilter(QuickFilter filter);
 
-    /// The place of the bar between side view and table, to be stored; collapsed in a fresh window.
-    QByteArray splitterState() const;
-    void restoreSplitter(const QByteArray& state);
-    /// The same of the bar above the tabs; in a fresh window they are as low as they may be.
-    QByteArray tabsSplitterState() const;
-    void restoreTabsSplitter(const QByteArray& state);
-
     /// Takes a part of the size of a fresh window, in the middle of the screen.
     void takeFirstRunFrame();
 
@@ -72,7 +65,6 @@ Q_SIGNALS:
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
-    void showEvent(QShowEvent* event) override;
     void changeEvent(QEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dragMoveEvent(QDragMoveEvent* event) override;
@@ -84,26 +76,12 @@ private:
     void makeQuickFilter();
     void makeFilter();
     void makeFooter();
-    void setSideViewShown(bool shown);
-    void setTabsShown(bool shown);
-    void setTabsHeight(int height);
-    int widestSideView() const;
-    void limitSideView();
-    int heightOfBoth() const;
-    int smallestTabs() const;
-    void limitTabs();
-    void validateArea(QWidget& area, QAction& item, bool isShown);
-    void validateAreaItems();
 
-    QSplitter* m_splitter;
-    QSplitter* m_tabsSplitter; ///< right of the side view: table and tabs
     TSSideView* m_sideView;
     TSNetworksView* m_networksView;
     GraphTabs* m_graphTabs;
     MainMenu* m_menu;
-    int m_sideViewWidth = 220; ///< of each area when it shows again
-    int m_tabsHeight = 0;
-    bool m_tabsAreFresh = false;
+    WindowAreas* m_areas;
     ActivityIndicator* m_activityIndicator = nullptr;
     ElidedLabel* m_info = nullptr;
     ElidedLabel* m_leftFooter = nullptr;
