@@ -19,7 +19,7 @@ constexpr qint64 kLongestAnswer = 256; // bytes
 
 ApplicationUpdate::Source ApplicationUpdate::Source::standard()
 {
-    return {QUrl(QStringLiteral(TESSARA_VERSION_URL)), QSslConfiguration::defaultConfiguration()};
+    return {QUrl(QStringLiteral(TESSARA_VERSION_URL)), std::nullopt};
 }
 
 void ApplicationUpdate::checkForUpdates()
@@ -47,7 +47,8 @@ void ApplicationUpdate::check(bool interactive)
     if (interactive)
         m_progress = m_prompt.beginProgress(localized("Checking for updates..."));
     QNetworkRequest request(m_source.location);
-    request.setSslConfiguration(m_source.tls);
+    if (m_source.tls)
+        request.setSslConfiguration(*m_source.tls);
     request.setAttribute(QNetworkRequest::CacheLoadControlAttribute,
                          QNetworkRequest::AlwaysNetwork);
     m_answer.close();

@@ -22,8 +22,8 @@ class ApplicationUpdate final : public QObject {
 
 public:
     struct Source {
-        QUrl location; ///< of a text that is the number of a version
-        QSslConfiguration tls;
+        QUrl location;                        ///< of a text that is the number of a version
+        std::optional<QSslConfiguration> tls; ///< none: what the system trusts, read when needed
 
         /// The publisher's, trusting whom the system trusts.
         static Source standard();

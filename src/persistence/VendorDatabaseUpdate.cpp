@@ -44,7 +44,7 @@ void release(std::unique_ptr<HttpsGet>& get)
 
 VendorDatabaseUpdate::Source VendorDatabaseUpdate::Source::standard()
 {
-    return {QUrl(QStringLiteral(TESSARA_VENDORS_URL)), QSslConfiguration::defaultConfiguration()};
+    return {QUrl(QStringLiteral(TESSARA_VENDORS_URL)), std::nullopt};
 }
 
 VendorDatabaseUpdate::VendorDatabaseUpdate(TSVendorDatabaseHelper& database, UserPrompt& prompt,
@@ -59,7 +59,8 @@ VendorDatabaseUpdate::VendorDatabaseUpdate(TSVendorDatabaseHelper& database, Use
 QNetworkRequest VendorDatabaseUpdate::request() const
 {
     QNetworkRequest request(m_source.location);
-    request.setSslConfiguration(m_source.tls);
+    if (m_source.tls)
+        request.setSslConfiguration(*m_source.tls);
     return request;
 }
 

@@ -24,7 +24,7 @@ class VendorDatabaseUpdate final : public QObject {
 public:
     struct Source {
         QUrl location;
-        QSslConfiguration tls;
+        std::optional<QSslConfiguration> tls; ///< none: what the system trusts, read when needed
 
         /// The publisher's, trusting whom the system trusts.
         static Source standard();
