@@ -19,10 +19,10 @@ class KeptPicture final : public QObject {
 public:
     /// What a picture was painted for.
     struct Key {
-        QSize size; ///< in points
-        double pixelRatio;
-        QSize window;
-        bool isNow;
+        QSize size;        ///< in points
+        double pixelRatio; ///< pixels of a point
+        QSize window;      ///< in points; texts and margins grow with it
+        bool isNow;        ///< the axis of time ends with "Now"
 
         bool operator==(const Key&) const = default;
     };

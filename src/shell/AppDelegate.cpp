@@ -80,7 +80,10 @@ void AppDelegate::connectParts(NotificationCenter& notifications)
     connect(&m_document, &ResultsDocument::titleDidChange, this, &AppDelegate::configureAll);
     connect(&m_document, &ResultsDocument::fileDidOpen, this, &RecentDocumentsMenu::addDocument);
     connect(&m_filters, &FilterCommands::didFilter, this, &AppDelegate::showFilteredNetworks);
-    connect(&m_window, &MainWindow::filterUsingKeys, this, &AppDelegate::configureAll);
+    connect(&m_window, &MainWindow::filterUsingKeys, this, [this] {
+        if (m_window.networksView().isEditing()) // else the pass has shown it all
+            configureAll();
+    });
     connect(&m_filters, &FilterCommands::preferencesRequested, this,
             &AppDelegate::showPreferencesWithIdentifier);
 

@@ -13,10 +13,10 @@ namespace tessara {
 
 namespace {
 
-constexpr int kNarrowestSideView = 125; // and at most a quarter of the window
-constexpr int kSmallestTable = 100;     // height
-constexpr int kSmallestTabs = 400;      // height
-constexpr int kRoomyTable = 160;        // height; what a low window leaves the table of both
+constexpr int kNarrowestSideView = 125; // pixels, as all of these; at most a quarter of the window
+constexpr int kSmallestTable = 100;
+constexpr int kSmallestTabs = 400;    // the form of the details is seen whole
+constexpr int kTableBeforeTabs = 160; // in a low window the tabs are lower for this, a few rows
 
 } // namespace
 
@@ -114,7 +114,8 @@ int WindowAreas::heightOfBoth() const
 
 int WindowAreas::smallestTabs() const
 {
-    return std::clamp(heightOfBoth() - kRoomyTable, m_graphTabs.minimumHeight(), kSmallestTabs);
+    return std::clamp(heightOfBoth() - kTableBeforeTabs, m_graphTabs.minimumHeight(),
+                      kSmallestTabs);
 }
 
 void WindowAreas::limitTabs()

@@ -17,6 +17,7 @@
 #include <QLineEdit>
 #include <QMimeData>
 #include <QSignalSpy>
+#include <QTabBar>
 #include <QTest>
 #include <QUrl>
 
@@ -202,6 +203,7 @@ TEST_F(FileCommandsTest, CopiesTheSelectedRowsWithTheKeyboardInTheTable)
     table().selectNetworks([](const TSNetwork&) { return true; });
     auto& filter = *window().findChild<FilterField*>();
     EXPECT_EQ(copied(filter), QStringLiteral("old"));
+    EXPECT_EQ(copied(*window().findChild<QTabBar*>()), QStringLiteral("old"));
     const QString text = copied(table());
     EXPECT_TRUE(text.startsWith(QStringLiteral("BSSID: 00:00:00:00:00:01\nNetwork Name: Attic\n")))
         << text.toStdString();
