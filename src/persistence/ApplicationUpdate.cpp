@@ -3,10 +3,7 @@
 #include "foundation/Defaults.h"
 #include "foundation/Localized.h"
 
-#include <QDateTime>
 #include <QVersionNumber>
-
-#include <cmath>
 
 namespace tessara {
 
@@ -17,7 +14,7 @@ constexpr qint64 kLongestAnswer = 256; // bytes
 
 } // namespace
 
-ApplicationUpdate::Source ApplicationUpdate::Source::standard()
+UpdateSource ApplicationUpdate::standardSource()
 {
     return {QUrl(QStringLiteral(TESSARA_VERSION_URL)), std::nullopt};
 }
@@ -30,12 +27,10 @@ void ApplicationUpdate::checkForUpdates()
 void ApplicationUpdate::checkForUpdatesIfDue()
 {
     const Defaults& defaults = Defaults::standard();
-    const QDateTime last = defaults.value(DefaultKey::LastUpdateCheck).toDateTime();
-    const double age = m_clock.now() - static_cast<double>(last.toMSecsSinceEpoch()) / 1000.0;
     const auto interval =
         static_cast<double>(defaults.integerForKey(DefaultKey::UpdateCheckInterval));
     if (defaults.boolForKey(DefaultKey::CheckForUpdates) &&
-        (!last.isValid() || age < 0 || age >= interval))
+        isCheckDue(DefaultKey::LastUpdateCheck, interval, m_clock))
         check(false);
 }
 
@@ -46,9 +41,7 @@ void ApplicationUpdate::check(bool interactive)
     m_check.reset(); // one that the user did not ask for would not answer
     if (interactive)
         m_progress = m_prompt.beginProgress(localized("Checking for updates..."));
-    QNetworkRequest request(m_source.location);
-    if (m_source.tls)
-        request.setSslConfiguration(*m_source.tls);
+    QNetworkRequest request = m_source.request();
     request.setAttribute(QNetworkRequest::CacheLoadControlAttribute,
                          QNetworkRequest::AlwaysNetwork);
     m_answer.close();
@@ -71,9 +64,7 @@ void ApplicationUpdate::didFinish(bool interactive)
             m_prompt.inform(localized("Unable to check for updates."), error);
         return;
     }
-    Defaults::standard().setValue(
-        DefaultKey::LastUpdateCheck,
-        QDateTime::fromMSecsSinceEpoch(std::llround(m_clock.now() * 1000)));
+    rememberCheck(DefaultKey::LastUpdateCheck, m_clock);
     const QVersionNumber own = QVersionNumber::fromString(QLatin1String(TESSARA_VERSION));
     const QString answer = QString::fromLatin1(m_answer.data().trimmed());
     qsizetype end = 0;

@@ -3,11 +3,10 @@
 #include "foundation/Clock.h"
 #include "foundation/UserPrompt.h"
 #include "persistence/HttpsGet.h"
+#include "persistence/UpdateCheck.h"
 
 #include <QBuffer>
 #include <QObject>
-#include <QSslConfiguration>
-#include <QUrl>
 
 #include <memory>
 #include <optional>
@@ -21,15 +20,10 @@ class ApplicationUpdate final : public QObject {
     Q_OBJECT
 
 public:
-    struct Source {
-        QUrl location;                        ///< of a text that is the number of a version
-        std::optional<QSslConfiguration> tls; ///< none: what the system trusts, read when needed
+    /// The publisher's server; what it sends is a text that is the number of a version.
+    static UpdateSource standardSource();
 
-        /// The publisher's, trusting whom the system trusts.
-        static Source standard();
-    };
-
-    ApplicationUpdate(UserPrompt& prompt, Clock& clock, Source source = Source::standard())
+    ApplicationUpdate(UserPrompt& prompt, Clock& clock, UpdateSource source = standardSource())
         : m_prompt(prompt)
         , m_clock(clock)
         , m_source(std::move(source))
@@ -47,7 +41,7 @@ private:
 
     UserPrompt& m_prompt;
     Clock& m_clock;
-    const Source m_source;
+    const UpdateSource m_source;
     std::optional<UserPrompt::ProgressId> m_progress;
     QBuffer m_answer;
     std::unique_ptr<HttpsGet> m_check; ///< under way

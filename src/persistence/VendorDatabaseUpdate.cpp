@@ -10,8 +10,6 @@
 #include <QLocale>
 #include <QTimeZone>
 
-#include <cmath>
-
 namespace tessara {
 
 namespace {
@@ -42,26 +40,18 @@ void release(std::unique_ptr<HttpsGet>& get)
 
 } // namespace
 
-VendorDatabaseUpdate::Source VendorDatabaseUpdate::Source::standard()
+UpdateSource VendorDatabaseUpdate::standardSource()
 {
     return {QUrl(QStringLiteral(TESSARA_VENDORS_URL)), std::nullopt};
 }
 
 VendorDatabaseUpdate::VendorDatabaseUpdate(TSVendorDatabaseHelper& database, UserPrompt& prompt,
-                                           Clock& clock, Source source)
+                                           Clock& clock, UpdateSource source)
     : m_database(database)
     , m_prompt(prompt)
     , m_clock(clock)
     , m_source(std::move(source))
 {
-}
-
-QNetworkRequest VendorDatabaseUpdate::request() const
-{
-    QNetworkRequest request(m_source.location);
-    if (m_source.tls)
-        request.setSslConfiguration(*m_source.tls);
-    return request;
 }
 
 // Check -----------------------------------------------------------------------------------------
@@ -73,9 +63,7 @@ void VendorDatabaseUpdate::checkForDatabaseUpdates(bool interactive)
         endProgress(); // of a check that this one takes the place of
         m_progress = m_prompt.beginProgress(localized("Checking for database updates..."));
     } else {
-        const auto last = defaults.value(DefaultKey::LastVendorsDatabaseCheck).toDateTime();
-        const double age = m_clock.now() - static_cast<double>(last.toMSecsSinceEpoch()) / 1000.0;
-        if ((last.isValid() && age >= 0 && age < kCheckInterval) || m_check ||
+        if (!isCheckDue(DefaultKey::LastVendorsDatabaseCheck, kCheckInterval, m_clock) || m_check ||
             defaults.integerForKey(DefaultKey::UpdateAlertSuppressionButton) != 0)
             return;
     }
@@ -84,7 +72,7 @@ void VendorDatabaseUpdate::checkForDatabaseUpdates(bool interactive)
 
 void VendorDatabaseUpdate::checkRemoteDatabase(bool interactive)
 {
-    QNetworkRequest head = request();
+    QNetworkRequest head = m_source.request();
     head.setAttribute(QNetworkRequest::CacheLoadControlAttribute, QNetworkRequest::AlwaysNetwork);
     // Only the headers of the answer count: the file itself is not awaited.
     const HttpsGet::Limits limits{kCheckTimeout, kCheckTimeout, kLargestArchive};
@@ -105,9 +93,7 @@ bool VendorDatabaseUpdate::isNewer(const QByteArray& lastModified) const
     if (lastModified.isEmpty())
         return false;
     // A check without a date does not hold back the next one.
-    Defaults::standard().setValue(
-        DefaultKey::LastVendorsDatabaseCheck,
-        QDateTime::fromMSecsSinceEpoch(std::llround(m_clock.now() * 1000)));
+    rememberCheck(DefaultKey::LastVendorsDatabaseCheck, m_clock);
     const QDateTime remote = dateOfHeader(lastModified);
     const QDateTime local = QFileInfo(m_database.pathToDatabase()).lastModified();
     return remote.isValid() && local.isValid() &&
@@ -173,7 +159,8 @@ void VendorDatabaseUpdate::startDatabaseUpdate()
         return;
     }
     const HttpsGet::Limits limits{kDownloadTimeout, kDownloadTime, kLargestArchive};
-    m_download = std::make_unique<HttpsGet>(m_clock, request(), limits, m_downloaded.get());
+    m_download =
+        std::make_unique<HttpsGet>(m_clock, m_source.request(), limits, m_downloaded.get());
     connect(m_download.get(), &HttpsGet::finished, this,
             [this] { downloadDidEnd(m_download->error()); });
 }

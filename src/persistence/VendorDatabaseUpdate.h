@@ -5,11 +5,10 @@
 #include "foundation/WorkerThreads.h"
 #include "persistence/HttpsGet.h"
 #include "persistence/TSVendorDatabaseHelper.h"
+#include "persistence/UpdateCheck.h"
 
 #include <QObject>
-#include <QSslConfiguration>
 #include <QTemporaryFile>
-#include <QUrl>
 
 #include <memory>
 #include <optional>
@@ -22,16 +21,11 @@ class VendorDatabaseUpdate final : public QObject {
     Q_OBJECT
 
 public:
-    struct Source {
-        QUrl location;
-        std::optional<QSslConfiguration> tls; ///< none: what the system trusts, read when needed
-
-        /// The publisher's, trusting whom the system trusts.
-        static Source standard();
-    };
+    /// The publisher's server, which holds the archive.
+    static UpdateSource standardSource();
 
     VendorDatabaseUpdate(TSVendorDatabaseHelper& database, UserPrompt& prompt, Clock& clock,
-                         Source source = Source::standard());
+                         UpdateSource source = standardSource());
 
     /// Checks for a newer database. A check that the user has not asked for happens at most once
     /// a day, unless the user has put an end to it, and is silent until there is one.
@@ -44,8 +38,6 @@ Q_SIGNALS:
     void databaseDidChange();
 
 private:
-    QNetworkRequest request() const;
-
     void checkRemoteDatabase(bool interactive);
     bool isNewer(const QByteArray& lastModified) const;
     void checkRemoteDatabaseDidFail(const QString& reason, bool interactive);
@@ -60,7 +52,7 @@ private:
     TSVendorDatabaseHelper& m_database;
     UserPrompt& m_prompt;
     Clock& m_clock;
-    const Source m_source;
+    const UpdateSource m_source;
     std::optional<UserPrompt::ProgressId> m_progress; ///< shown during a check of the user
     std::unique_ptr<HttpsGet> m_check;                ///< under way
     std::unique_ptr<HttpsGet> m_download;             ///< under way

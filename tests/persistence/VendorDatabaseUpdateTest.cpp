@@ -102,7 +102,7 @@ protected:
     VendorDatabaseUpdate& use(const QUrl& location, const QSslConfiguration& tls)
     {
         update = std::make_unique<VendorDatabaseUpdate>(
-            database, user, clock, VendorDatabaseUpdate::Source{location, tls});
+            database, user, clock, UpdateSource{location, tls});
         return *update;
     }
     VendorDatabaseUpdate& use(const QString& path)
