@@ -147,8 +147,6 @@ void PaintRecorder::Engine::drawPolygon(const QPointF* points, int count, Polygo
 
 void PaintRecorder::Engine::drawTextItem(const QPointF& origin, const QTextItem& item)
 {
-    m_state.font = item.font();
-    m_isStateRecorded = false;
     add(PaintRecording::Text{origin, item.text()}, kTextCost);
 }
 

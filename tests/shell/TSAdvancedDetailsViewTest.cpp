@@ -137,6 +137,7 @@ TEST_F(TSAdvancedDetailsViewTest, SortsElementsAndFindsBackToTheBeacon)
     view.header()->setSortIndicator(InfoElementsModel::kFieldsColumn, Qt::AscendingOrder);
     EXPECT_EQ(view.header()->sortIndicatorSection(), InfoElementsModel::kIDColumn)
         << "there is nothing to sort by";
+    view.setNetwork(networkWith({kRates, kLoad, kName}));
     EXPECT_EQ(text(element(0)), "11");
 }
 
