@@ -101,8 +101,8 @@ protected:
 
     VendorDatabaseUpdate& use(const QUrl& location, const QSslConfiguration& tls)
     {
-        update = std::make_unique<VendorDatabaseUpdate>(
-            database, user, clock, UpdateSource{location, tls});
+        update = std::make_unique<VendorDatabaseUpdate>(database, user, clock,
+                                                        UpdateSource{location, tls});
         return *update;
     }
     VendorDatabaseUpdate& use(const QString& path)
